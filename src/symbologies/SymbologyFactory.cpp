@@ -1,0 +1,80 @@
+#include "symbologies/SymbologyFactory.h"
+
+#include <cstddef>
+#include <new>
+
+#include "symbologies/Code39Symbology.h"
+
+namespace barhatch {
+
+namespace {
+
+enum class EncoderClass {
+  kCodabar,
+  kCode39,
+  kCode93,
+  kEan13,
+  kMsi,
+  kCode128Auto,
+  kCode128A,
+  kCode128B,
+  kCode128C,
+  kUpcA,
+  kUpcE,
+  kCode11,
+  kEan8,
+  kUpcAAddon2,
+  kUpcAAddon5,
+  kEan13Addon2,
+  kEan13Addon5,
+  kEan8Addon2,
+  kEan8Addon5,
+  kUpcEAddon2,
+  kUpcEAddon5,
+  kInterleaved2of5,
+};
+
+struct SymbologyRow {
+  std::int32_t type;
+  EncoderClass encoder;
+  bool fullAscii;  // Code 93 only: any byte is accepted as input
+};
+
+constexpr SymbologyRow kSymbologies[] = {
+    {0, EncoderClass::kCodabar, false},      {1, EncoderClass::kCode39, false},
+    {2, EncoderClass::kCode93, false},       {3, EncoderClass::kEan13, false},
+    {4, EncoderClass::kMsi, false},          {5, EncoderClass::kCode128Auto, false},
+    {6, EncoderClass::kCode128A, false},     {7, EncoderClass::kCode128B, false},
+    {8, EncoderClass::kCode128C, false},     {9, EncoderClass::kUpcA, false},
+    {10, EncoderClass::kUpcE, false},        {11, EncoderClass::kCode11, false},
+    {12, EncoderClass::kEan8, false},        {13, EncoderClass::kUpcAAddon2, false},
+    {14, EncoderClass::kUpcAAddon5, false},  {15, EncoderClass::kEan13Addon2, false},
+    {16, EncoderClass::kEan13Addon5, false}, {17, EncoderClass::kEan8Addon2, false},
+    {18, EncoderClass::kEan8Addon5, false},  {19, EncoderClass::kUpcEAddon2, false},
+    {20, EncoderClass::kUpcEAddon5, false},  {21, EncoderClass::kInterleaved2of5, false},
+    {22, EncoderClass::kCode93, true},
+};
+constexpr std::size_t kSymbologyCount = sizeof(kSymbologies) / sizeof(kSymbologies[0]);
+
+constexpr bool RowsAreIndexedByType() {
+  for (std::size_t i = 0; i < kSymbologyCount; ++i) {
+    if (kSymbologies[i].type != static_cast<std::int32_t>(i)) return false;
+  }
+  return true;
+}
+static_assert(kSymbologyCount == 23, "types 0 to 22");
+static_assert(RowsAreIndexedByType(), "the type is the index of its row");
+
+}  // namespace
+
+Symbology* SymbologyFactory(std::int32_t type) {
+  if (static_cast<std::uint32_t>(type) >= kSymbologyCount) return nullptr;
+  switch (kSymbologies[type].encoder) {
+    case EncoderClass::kCode39:
+      return new (std::nothrow) Code39Symbology;
+    default:
+      return nullptr;
+  }
+}
+
+}  // namespace barhatch

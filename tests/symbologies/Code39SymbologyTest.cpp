@@ -1,0 +1,158 @@
+#include "symbologies/Code39Symbology.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+#include <string>
+
+#include "support/Modules.h"
+#include "support/OwnedString.h"
+
+namespace barhatch {
+namespace {
+
+using test::Elements;
+using test::Quiet;
+using test::Take;
+
+std::optional<std::string> Encode(const std::string& text, QuietZone quietZone = QuietZone::kNone) {
+  return Take(EncodeCode39(text.c_str(), quietZone));
+}
+
+// ISO/IEC 16388: the start/stop character, and "narrow space between characters".
+const std::string kStartStop = Elements("NWNNWNWNN");
+
+TEST(Code39, EmptyTextIsStartAndStopOnly) {
+  EXPECT_EQ(Encode(""), kStartStop + "a" + kStartStop);
+  EXPECT_EQ(Encode(""), "AbAaBaBaAaAbAaBaBaA");
+}
+
+TEST(Code39, EmptyTextWithQuietZoneHasTenLightModulesAtEachEnd) {
+  EXPECT_EQ(Encode("", QuietZone::kBothEnds), Quiet() + "AbAaBaBaAaAbAaBaBaA" + Quiet());
+}
+
+TEST(Code39, LetterAndDigitGiveThirtyNineLetters) {
+  const std::string expected =
+      kStartStop + "a" + "BaAaAbAaB" + "a" + Elements("WNNWNNNNW") + "a" + kStartStop;
+  EXPECT_EQ(Encode("A1"), expected);
+  EXPECT_EQ(Encode("A1")->size(), 39u);
+}
+
+TEST(Code39, LowerCaseIsRefused) { EXPECT_FALSE(Encode("abc")); }
+
+TEST(Code39, DoubledPercentStandsForOne) { EXPECT_EQ(Encode("50%%"), Encode("50%")); }
+
+TEST(Code39, EverySingleByteIsAcceptedOrRefusedByTheSet) {
+  const std::string accepted = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ*-$% ./+";
+  for (int byte = 1; byte < 256; ++byte) {
+    const char character = static_cast<char>(byte);
+    const bool expected = accepted.find(character) != std::string::npos;
+    EXPECT_EQ(Encode(std::string(1, character)).has_value(), expected) << byte;
+  }
+}
+
+TEST(Code39, LengthLimitIs3114Characters) {
+  EXPECT_EQ(Encode(std::string(3113, '7'))->size(), 10u * 3115 - 1);
+  EXPECT_EQ(Encode(std::string(3114, '7'))->size(), 10u * 3116 - 1);
+  EXPECT_FALSE(Encode(std::string(3115, '7')));
+}
+
+TEST(Code39, LongestTextWithQuietZoneFits) {
+  const auto encoded = Encode(std::string(3114, '7'), QuietZone::kBothEnds);
+  ASSERT_TRUE(encoded);
+  EXPECT_EQ(encoded->size(), 31179u);  // 31180 bytes with the NUL
+  EXPECT_EQ(encoded->substr(31169), Quiet());
+}
+
+TEST(Code39, LongestStorableTextThatCollapsesIsAccepted) {
+  // 3118 units are 1559 pairs of "%%".
+  EXPECT_EQ(Encode(std::string(3118, '%'))->size(), 10u * 1561 - 1);
+}
+
+TEST(Code39Table, HasFortyFourRowsAndNoMore) {
+  EXPECT_NE(Code39TableElements(0), nullptr);
+  EXPECT_NE(Code39TableElements(43), nullptr);
+  EXPECT_EQ(Code39TableElements(44), nullptr);
+  EXPECT_EQ(Code39TableElements(-1), nullptr);
+}
+
+TEST(Code39Table, EveryCharacterHasThreeWideOfNineButTheDeviatingW) {
+  for (int index = 0; index < 44; ++index) {
+    const std::string elements = Code39TableElements(index);
+    EXPECT_EQ(elements.size(), 9u);
+    int wide = 0;
+    for (char element : elements) wide += element == '1';
+    EXPECT_EQ(wide, index == 32 ? 2 : 3) << "row " << index;
+  }
+}
+
+// In the published set $ / + % are the four characters whose wide elements are all spaces; all
+// others have two wide bars and one wide space.
+TEST(Code39Table, WideElementsAreTwoBarsAndOneSpaceOrThreeSpaces) {
+  for (int index = 0; index < 44; ++index) {
+    if (index == 32) continue;
+    const std::string elements = Code39TableElements(index);
+    int wideBars = 0;
+    for (std::size_t i = 0; i < 9; i += 2) wideBars += elements[i] == '1';
+    const bool threeSpaces = index == 38 || index == 39 || index == 42 || index == 43;
+    EXPECT_EQ(wideBars, threeSpaces ? 0 : 2) << "row " << index;
+  }
+}
+
+TEST(Code39Table, RowsAreDistinctButForTheDeviatingSlash) {
+  std::set<std::string> rows;
+  for (int index = 0; index < 44; ++index) rows.insert(Code39TableElements(index));
+  EXPECT_EQ(rows.size(), 43u);
+}
+
+// The published bars are a two-of-five code shared by every fourth group of ten characters:
+// within 1..0, A..J, K..T and U.. the bars repeat and the wide space moves.
+TEST(Code39Table, BarsRepeatEveryTenCharacters) {
+  const auto bars = [](int index) {
+    const std::string elements = Code39TableElements(index);
+    return std::string{elements[0], elements[2], elements[4], elements[6], elements[8]};
+  };
+  for (int i = 0; i < 10; ++i) {
+    const int digit = (i + 1) % 10;  // 1..9, 0
+    EXPECT_EQ(bars(digit), bars(10 + i));
+    EXPECT_EQ(bars(digit), bars(20 + i));
+    if (i < 6 && 30 + i != 32) {
+      EXPECT_EQ(bars(digit), bars(30 + i));
+    }
+  }
+}
+
+TEST(Code39Deviations, D391TableRowOfWIsNotThePublishedOne) {
+  EXPECT_STREQ(Code39TableElements(32), "011000000");  // 0x0C0, published 0x1C0
+}
+
+TEST(Code39Deviations, D392SlashIsWrittenAsPercent) {
+  EXPECT_STREQ(Code39Elements('/'), Code39Elements('%'));
+  EXPECT_EQ(Encode("/"), kStartStop + "a" + "AaAbAbAbA" + "a" + kStartStop);
+}
+
+TEST(Code39Deviations, D393LettersFromEToZAreAllWrittenAlike) {
+  for (char letter = 'E'; letter <= 'Z'; ++letter) {
+    EXPECT_EQ(Encode(std::string(1, letter)), kStartStop + "a" + "AbBbBbBbB" + "a" + kStartStop)
+        << letter;
+  }
+}
+
+TEST(Code39Deviations, D394StarInsideTheDataIsWrittenAsStartStop) {
+  EXPECT_EQ(Encode("*"), kStartStop + "a" + kStartStop + "a" + kStartStop);
+}
+
+TEST(Code39Deviations, D395PercentPairsCollapseFromTheLeft) {
+  EXPECT_EQ(Encode("%%%"), kStartStop + "a" + Elements("NNNWNWNWN") + "a" + Elements("NNNWNWNWN") +
+                               "a" + kStartStop);
+  EXPECT_EQ(Encode("%%%%"), Encode("%%%"));
+  EXPECT_EQ(Encode("%"), Encode("%%"));
+}
+
+TEST(Code39Deviations, D395UserTextNeverReachesAFormatter) {
+  // All of these are plain characters of the set; none is a conversion.
+  EXPECT_EQ(Encode("%1$%-5%")->size(), 10u * 9 - 1);
+}
+
+}  // namespace
+}  // namespace barhatch
