@@ -1,0 +1,67 @@
+#include "hatch/HatchPatterns.h"
+
+#include "hatch/LinePatterns.h"
+#include "hatch/SpiralPattern.h"
+
+namespace barhatch {
+
+namespace {
+
+enum HatchingType : std::int32_t {
+  kScanLines = 0,
+  kVerticalLines = 1,
+  kAlternatingHorizontalLines = 2,
+  kAlternatingVerticalLines = 3,
+  kSpiral = 5,
+  kCentres = 6,
+};
+
+bool HasUsableGap(const HatchStyle& style) {
+  return style.lineGap > 0.0 || style.hatchingType == kCentres;
+}
+
+}  // namespace
+
+DoubleCount MostDoubles(const RectList& rects, const HatchStyle& style) {
+  if (!HasUsableGap(style)) return 0;
+  switch (style.hatchingType) {
+    case kScanLines:
+      return MostScanLineDoubles(rects, style.lineGap);
+    case kVerticalLines:
+    case kAlternatingVerticalLines:
+      return MostLineDoubles(rects, style.lineGap, LineDirection::kVertical);
+    case kAlternatingHorizontalLines:
+      return MostLineDoubles(rects, style.lineGap, LineDirection::kHorizontal);
+    case kSpiral:
+      return MostSpiralDoubles(rects, style.lineGap);
+    case kCentres:
+      return MostCentreDoubles(rects);
+    default:
+      return 0;
+  }
+}
+
+void FillRects(const RectList& rects, const HatchStyle& style, CoordinateList& coordinates) {
+  if (!HasUsableGap(style)) return;
+  switch (style.hatchingType) {
+    case kScanLines:
+      return FillWithScanLines(rects, style.lineGap, coordinates);
+    case kVerticalLines:
+      return FillWithLines(rects, style.lineGap, LineDirection::kVertical, LineOrder::kSameWay,
+                           coordinates);
+    case kAlternatingHorizontalLines:
+      return FillWithLines(rects, style.lineGap, LineDirection::kHorizontal,
+                           LineOrder::kAlternating, coordinates);
+    case kAlternatingVerticalLines:
+      return FillWithLines(rects, style.lineGap, LineDirection::kVertical, LineOrder::kAlternating,
+                           coordinates);
+    case kSpiral:
+      return FillWithSpirals(rects, style.lineGap, coordinates);
+    case kCentres:
+      return FillWithCentres(rects, coordinates);
+    default:
+      return;
+  }
+}
+
+}  // namespace barhatch

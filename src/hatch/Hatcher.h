@@ -1,0 +1,27 @@
+// From module strings to fill buffers, by the settings: scaling to the size the host asked for,
+// rectangles, pattern.
+#ifndef BARHATCH_HATCH_HATCHER_H
+#define BARHATCH_HATCH_HATCHER_H
+
+#include "barhatch.h"
+
+namespace barhatch {
+
+class Hatcher {
+ public:
+  Hatcher() = default;
+  virtual ~Hatcher() = default;
+  Hatcher(const Hatcher&) = delete;
+  Hatcher& operator=(const Hatcher&) = delete;
+
+  // A linear symbol. The whole string, quiet zones included, spans exactly the width setting;
+  // ModuleWidth plays no part. Writes the extents FillHeight (= height) and FillWidth (the width
+  // less 20 modules, the two quiet zones that most symbologies have, whether or not this string has
+  // them). Null when the string has no module or nothing was filled, when the fill does not fit a
+  // fill buffer, and when there is no memory; a string without a module leaves the extents alone.
+  FillBufferInfo* VectorizeLinear(const char* moduleString);
+};
+
+}  // namespace barhatch
+
+#endif

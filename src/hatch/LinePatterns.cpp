@@ -1,0 +1,99 @@
+#include "hatch/LinePatterns.h"
+
+namespace barhatch {
+
+namespace {
+
+constexpr DoubleCount kDoublesPerSegment = 4;
+constexpr DoubleCount kDoublesPerPoint = 2;
+
+// A rectangle as the strokes see it: positions advance across it, each stroke runs along it.
+struct StrokeFrame {
+  double firstPosition;
+  double endPosition;
+  double strokeStart;
+  double strokeEnd;
+};
+
+StrokeFrame FrameOf(const HatchRect& rect, double gap, LineDirection direction) {
+  const HatchPoint& low = rect.lowerLeft;
+  const HatchPoint& high = rect.upperRight;
+  return direction == LineDirection::kHorizontal
+             ? StrokeFrame{Snap(low.y, gap), high.y, low.x, high.x}
+             : StrokeFrame{Snap(low.x, gap), high.x, low.y, high.y};
+}
+
+DoubleCount SegmentDoubles(DoubleCount strokes, DoubleCount times) {
+  if (strokes == kUncountable || strokes > kMostDoubles) return kUncountable;
+  const DoubleCount segments = strokes * times;
+  return segments > kMostDoubles / kDoublesPerSegment ? kUncountable
+                                                      : segments * kDoublesPerSegment;
+}
+
+void AppendStroke(LineDirection direction, double position, double from, double to,
+                  CoordinateList& coordinates) {
+  if (direction == LineDirection::kHorizontal) {
+    coordinates.AppendSegment(from, position, to, position);
+  } else {
+    coordinates.AppendSegment(position, from, position, to);
+  }
+}
+
+}  // namespace
+
+DoubleCount MostScanLineDoubles(const RectList& rects, double gap) {
+  if (rects.Count() == 0) return 0;
+  const StrokeFrame first = FrameOf(rects[0], gap, LineDirection::kHorizontal);
+  const DoubleCount lines = MostStrokes(first.firstPosition, first.endPosition, gap);
+  return SegmentDoubles(lines, static_cast<DoubleCount>(rects.Count()));
+}
+
+void FillWithScanLines(const RectList& rects, double gap, CoordinateList& coordinates) {
+  if (rects.Count() == 0) return;
+  const StrokeFrame first = FrameOf(rects[0], gap, LineDirection::kHorizontal);
+  for (double y = first.firstPosition; y < first.endPosition; y += gap) {
+    for (const HatchRect& rect : rects) {
+      coordinates.AppendSegment(rect.lowerLeft.x, y, rect.upperRight.x, y);
+    }
+  }
+}
+
+DoubleCount MostLineDoubles(const RectList& rects, double gap, LineDirection direction) {
+  DoubleCount total = 0;
+  for (const HatchRect& rect : rects) {
+    const StrokeFrame frame = FrameOf(rect, gap, direction);
+    total = AddCounts(total,
+                      SegmentDoubles(MostStrokes(frame.firstPosition, frame.endPosition, gap), 1));
+  }
+  return total;
+}
+
+void FillWithLines(const RectList& rects, double gap, LineDirection direction, LineOrder order,
+                   CoordinateList& coordinates) {
+  bool forward = true;
+  for (const HatchRect& rect : rects) {
+    const StrokeFrame frame = FrameOf(rect, gap, direction);
+    for (double position = frame.firstPosition; position < frame.endPosition; position += gap) {
+      if (forward) {
+        AppendStroke(direction, position, frame.strokeStart, frame.strokeEnd, coordinates);
+      } else {
+        AppendStroke(direction, position, frame.strokeEnd, frame.strokeStart, coordinates);
+      }
+      if (order == LineOrder::kAlternating) forward = !forward;
+    }
+  }
+}
+
+DoubleCount MostCentreDoubles(const RectList& rects) {
+  const DoubleCount count = static_cast<DoubleCount>(rects.Count());
+  return count > kMostDoubles / kDoublesPerPoint ? kUncountable : count * kDoublesPerPoint;
+}
+
+void FillWithCentres(const RectList& rects, CoordinateList& coordinates) {
+  for (const HatchRect& rect : rects) {
+    coordinates.AppendPoint((rect.upperRight.x + rect.lowerLeft.x) * 0.5,
+                            (rect.upperRight.y + rect.lowerLeft.y) * 0.5);
+  }
+}
+
+}  // namespace barhatch

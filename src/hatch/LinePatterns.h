@@ -1,0 +1,38 @@
+// Hatching types 0 to 3 and 6: straight strokes, and one point for each rectangle. A rectangle
+// whose first position on the grid is not below its end gets no stroke; the last stroke lies
+// strictly below the upper (or right) edge.
+//
+// Every pattern comes as a pair: the most doubles it can write, found without writing, and the fill
+// itself. Positions are reached by adding the gap again and again, never by multiplying, so that
+// they agree with earlier fills to the last bit.
+#ifndef BARHATCH_HATCH_LINEPATTERNS_H
+#define BARHATCH_HATCH_LINEPATTERNS_H
+
+#include "hatch/HatchGrid.h"
+#include "hatch/HatchLists.h"
+
+namespace barhatch {
+
+enum class LineDirection { kHorizontal, kVertical };
+enum class LineOrder { kSameWay, kAlternating };
+
+// Hatching type 0: scan lines from left to right across all rectangles before the next line starts.
+// The y range is that of the first rectangle; the others are taken to have the same. REQUIRES: gap
+// > 0, here and below.
+DoubleCount MostScanLineDoubles(const RectList& rects, double gap);
+void FillWithScanLines(const RectList& rects, double gap, CoordinateList& coordinates);
+
+// Hatching types 1 (vertical, same way), 2 (horizontal, alternating) and 3 (vertical, alternating):
+// rectangle by rectangle. Alternation starts to the right or upwards and goes on from one rectangle
+// to the next.
+DoubleCount MostLineDoubles(const RectList& rects, double gap, LineDirection direction);
+void FillWithLines(const RectList& rects, double gap, LineDirection direction, LineOrder order,
+                   CoordinateList& coordinates);
+
+// Hatching type 6: the centre of every rectangle; uses no gap.
+DoubleCount MostCentreDoubles(const RectList& rects);
+void FillWithCentres(const RectList& rects, CoordinateList& coordinates);
+
+}  // namespace barhatch
+
+#endif
