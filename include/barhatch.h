@@ -195,7 +195,7 @@ BARHATCH_API FillBufferInfo* TestStruct(void);
 
 /* Size of a Data Matrix, rows x 256 + columns. Every 32-bit value may be asked for; see the documentation for what
  * becomes of sizes that do not exist. */
-enum _matrixSize : int32_t {
+enum _matrixSize : int32_t { /* NOLINT(bugprone-reserved-identifier,cert-*): the name is part of the export */
   kMatrixSizeSmallestSquare = 0, /* needs permission to expand */
   kMatrixSize10x10 = 0x0A0A,
   kMatrixSize12x12 = 0x0C0C,

@@ -6,7 +6,7 @@ namespace barhatch {
 
 FillBufferInfo* NewFillBuffer() { return new (std::nothrow) FillBufferInfo{}; }
 
-void ReleaseModuleString(char* moduleString) { delete[] moduleString; }
+void ReleaseModuleString(const char* moduleString) { delete[] moduleString; }
 
 }  // namespace barhatch
 

@@ -16,7 +16,7 @@ namespace barhatch {
 // An empty record, all zero; null when there is no memory.
 FillBufferInfo* NewFillBuffer();
 
-void ReleaseModuleString(char* moduleString);
+void ReleaseModuleString(const char* moduleString);
 
 }  // namespace barhatch
 

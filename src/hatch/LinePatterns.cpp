@@ -52,8 +52,16 @@ void FillWithScanLines(const RectList& rects, double gap, CoordinateList& coordi
   if (rects.Count() == 0) return;
   const StrokeFrame first = FrameOf(rects[0], gap, LineDirection::kHorizontal);
   for (double y = first.firstPosition; y < first.endPosition; y += gap) {
+    double* room = coordinates.RoomFor(kDoublesPerSegment * rects.Count());
+    if (room == nullptr) return;
     for (const HatchRect& rect : rects) {
-      coordinates.AppendSegment(rect.lowerLeft.x, y, rect.upperRight.x, y);
+      const double from = rect.lowerLeft.x;
+      const double to = rect.upperRight.x;
+      room[0] = from;
+      room[1] = y;
+      room[2] = to;
+      room[3] = y;
+      room += kDoublesPerSegment;
     }
   }
 }

@@ -1,0 +1,157 @@
+// The preview host: asks the library for a barcode as the host on a device would, and draws what
+// the head would mark. Exit codes: 0 done, 1 the library refused or a file could not be written, 2
+// bad arguments.
+#include <CLI/CLI.hpp>
+#include <cstdio>
+#include <exception>
+#include <string>
+#include <vector>
+
+#include "LinearTypes.h"
+#include "MarkImage.h"
+#include "PngWriter.h"
+#include "Request.h"
+#include "SvgWriter.h"
+
+namespace {
+
+constexpr int kRefused = 1;
+constexpr int kBadArguments = 2;
+constexpr double kLargestPicture = 100e6;  // pixels
+
+struct Options {
+  preview::Request request;
+  std::vector<std::string> outputs;
+  bool darkPart = false;
+  double beam = 0.0;           // 0: as wide as the gap
+  double margin = -1.0;        // negative: a tenth of the width
+  double pixelsPerUnit = 0.0;  // 0: 1600 pixels across
+};
+
+bool EndsWith(const std::string& text, const std::string& ending) {
+  return text.size() >= ending.size() &&
+         text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+std::string CheckType(const std::string& text) {
+  return preview::LinearTypeFrom(text) ? "" : "no barcode type \"" + text + "\" (see --help)";
+}
+
+std::string CheckOutput(const std::string& path) {
+  return EndsWith(path, ".svg") || EndsWith(path, ".png")
+             ? ""
+             : "output \"" + path + "\" is neither .svg nor .png";
+}
+
+std::string CheckLength(const std::string& text) {
+  double value = 0.0;
+  if (!CLI::detail::lexical_cast(text, value) || !(value > 0.0) || value > 1e9) {
+    return "\"" + text + "\" is not a length above zero";
+  }
+  return "";
+}
+
+void Describe(CLI::App& app, Options& options) {
+  preview::Request& request = options.request;
+  app.add_option_function<std::string>(
+         "-t,--type",
+         [&](const std::string& text) { request.type = *preview::LinearTypeFrom(text); },
+         "barcode type by number or name (default code39)")
+      ->check(CheckType);
+  app.add_option("text", request.text, "text of the barcode, UTF-8")->required();
+  app.add_option("-W,--width", request.width, "width of the whole symbol")
+      ->check(CheckLength)
+      ->capture_default_str();
+  app.add_option("-H,--height", request.height, "bar height")
+      ->check(CheckLength)
+      ->capture_default_str();
+  app.add_option("-r,--ratio", request.ratio, "width of a wide element in modules")
+      ->check(CheckLength)
+      ->capture_default_str();
+  app.add_flag("-i,--invert", request.invert, "fill the light elements instead of the dark ones");
+  app.add_flag("-q,--quiet-zone", request.quietZone, "add the quiet zones of the symbology");
+  app.add_option("-p,--pattern", request.pattern,
+                 "0 scan lines, 1 vertical, 2 horizontal alternating, 3 vertical alternating, 5 "
+                 "spiral, 6 points")
+      ->check(CLI::Range(0, 6))
+      ->capture_default_str();
+  app.add_option("-g,--gap", request.gap, "pitch of the strokes")
+      ->check(CheckLength)
+      ->capture_default_str();
+  app.add_option("-o,--output", options.outputs,
+                 "file to write, .svg or .png; may be given several times")
+      ->check(CheckOutput)
+      ->required();
+  app.add_flag("--dark-part", options.darkPart,
+               "light marks on a dark part instead of dark marks on a light one");
+  app.add_option("--beam", options.beam, "width of a stroke (default: the gap)")
+      ->check(CheckLength);
+  app.add_option("--margin", options.margin,
+                 "margin around the symbol (default: a tenth of its width)")
+      ->check(CLI::Range(0.0, 1e9));
+  app.add_option("--pixels-per-unit", options.pixelsPerUnit,
+                 "resolution of a PNG (default: 1600 pixels across)")
+      ->check(CheckLength);
+  app.footer(preview::LinearTypeList());
+}
+
+bool WriteOne(const std::string& path, const FillBufferInfo& fill, const Options& options) {
+  const preview::Request& request = options.request;
+  const double beam = options.beam > 0.0 ? options.beam : request.gap;
+  const double margin = options.margin >= 0.0 ? options.margin : request.width / 10;
+  const preview::View view{request.width, request.height, margin, beam,
+                           options.darkPart ? preview::Part::kDark : preview::Part::kLight};
+  if (EndsWith(path, ".svg")) return preview::WriteSvg(path, fill, view);
+  const double across = request.width + 2 * margin;
+  const double pixelsPerUnit =
+      options.pixelsPerUnit > 0.0 ? options.pixelsPerUnit : 1600.0 / across;
+  if (across * (request.height + 2 * margin) * pixelsPerUnit * pixelsPerUnit > kLargestPicture)
+    return false;
+  return preview::WritePng(path, preview::Draw(preview::MarksOf(fill, beam), view, pixelsPerUnit));
+}
+
+int Run(const Options& options) {
+  const preview::Request& request = options.request;
+  const preview::Fill fill = preview::Generate(request);
+  if (!fill) {
+    std::fprintf(stderr, "barhatch: %s\n", preview::WhyRefused(request).c_str());
+    return kRefused;
+  }
+  const bool points = fill->FillingShapeType == 2;
+  std::printf("%s \"%s\": %d %s\n", preview::LinearTypeName(request.type).c_str(),
+              request.text.c_str(), fill->BufferLength / (points ? 2 : 4),
+              points ? "points" : "strokes");
+  for (const std::string& path : options.outputs) {
+    if (!WriteOne(path, *fill, options)) {
+      std::fprintf(stderr, "barhatch: cannot write %s\n", path.c_str());
+      return kRefused;
+    }
+  }
+  return 0;
+}
+
+int ParseAndRun(int argc, char** argv) {
+  CLI::App app{"Draws the strokes with which a marking head marks a barcode.", "barhatch"};
+  Options options;
+  Describe(app, options);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::CallForHelp& help) {
+    return app.exit(help);
+  } catch (const CLI::ParseError& error) {
+    std::fprintf(stderr, "barhatch: %s\n", error.what());
+    return kBadArguments;
+  }
+  return Run(options);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+  try {
+    return ParseAndRun(argc, argv);
+  } catch (const std::exception& error) {
+    std::fprintf(stderr, "barhatch: %s\n", error.what());
+    return kRefused;
+  }
+}

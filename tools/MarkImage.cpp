@@ -1,0 +1,99 @@
+#include "MarkImage.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace preview {
+
+namespace {
+
+// Area of each pixel that is covered, 0 to 1; marks that overlap count once, because coverage ends
+// at 1.
+class CoverageMap {
+ public:
+  CoverageMap(std::uint32_t width, std::uint32_t height)
+      : width_(width), height_(height), coverage_(std::size_t{width} * height, 0.0f) {}
+
+  // The rectangle in pixels, y downwards.
+  void Cover(double left, double top, double right, double bottom) {
+    const auto firstRow = static_cast<std::int64_t>(std::floor(std::max(top, 0.0)));
+    const auto lastRow =
+        static_cast<std::int64_t>(std::ceil(std::min(bottom, static_cast<double>(height_))));
+    for (std::int64_t row = firstRow; row < lastRow; ++row) {
+      const double covered = Overlap(static_cast<double>(row), top, bottom);
+      if (covered > 0.0) CoverRow(row, left, right, covered);
+    }
+  }
+
+  float At(std::size_t index) const { return std::min(coverage_[index], 1.0f); }
+  std::size_t Size() const { return coverage_.size(); }
+
+ private:
+  static double Overlap(double pixel, double from, double to) {
+    return std::min(pixel + 1.0, to) - std::max(pixel, from);
+  }
+
+  void CoverRow(std::int64_t row, double left, double right, double share) {
+    const auto first = static_cast<std::int64_t>(std::floor(std::max(left, 0.0)));
+    const auto last =
+        static_cast<std::int64_t>(std::ceil(std::min(right, static_cast<double>(width_))));
+    float* pixels = coverage_.data() + row * width_;
+    for (std::int64_t column = first; column < last; ++column) {
+      const double covered = Overlap(static_cast<double>(column), left, right);
+      if (covered > 0.0) pixels[column] += static_cast<float>(covered * share);
+    }
+  }
+
+  std::uint32_t width_;
+  std::uint32_t height_;
+  std::vector<float> coverage_;
+};
+
+Mark StrokeMark(double xa, double ya, double xb, double yb, double beam) {
+  Mark mark{std::min(xa, xb), std::min(ya, yb), std::max(xa, xb), std::max(ya, yb)};
+  if (ya == yb) {
+    mark.bottom -= beam / 2;
+    mark.top += beam / 2;
+  } else {
+    mark.left -= beam / 2;
+    mark.right += beam / 2;
+  }
+  return mark;
+}
+
+}  // namespace
+
+std::vector<Mark> MarksOf(const FillBufferInfo& fill, double beam) {
+  std::vector<Mark> marks;
+  const double* c = fill.FilledArray;
+  if (fill.FillingShapeType == 2) {
+    for (std::int32_t i = 0; i + 1 < fill.BufferLength; i += 2) {
+      marks.push_back({c[i] - beam / 2, c[i + 1] - beam / 2, c[i] + beam / 2, c[i + 1] + beam / 2});
+    }
+  } else {
+    for (std::int32_t i = 0; i + 3 < fill.BufferLength; i += 4) {
+      marks.push_back(StrokeMark(c[i], c[i + 1], c[i + 2], c[i + 3], beam));
+    }
+  }
+  return marks;
+}
+
+Picture Draw(const std::vector<Mark>& marks, const View& view, double pixelsPerUnit) {
+  const auto pixels = [&](double length) {
+    return static_cast<std::uint32_t>(std::ceil((length + 2 * view.margin) * pixelsPerUnit));
+  };
+  Picture picture{pixels(view.width), pixels(view.height), {}};
+  CoverageMap map(picture.width, picture.height);
+  const auto column = [&](double x) { return (x + view.margin) * pixelsPerUnit; };
+  const auto row = [&](double y) { return (view.height + view.margin - y) * pixelsPerUnit; };
+  for (const Mark& m : marks) map.Cover(column(m.left), row(m.top), column(m.right), row(m.bottom));
+  picture.pixels.resize(map.Size());
+  for (std::size_t i = 0; i < map.Size(); ++i) {
+    const float marked = map.At(i);
+    const float light = view.part == Part::kLight ? 1.0f - marked : marked;
+    picture.pixels[i] = static_cast<std::uint8_t>(std::lround(light * 255.0f));
+  }
+  return picture;
+}
+
+}  // namespace preview
