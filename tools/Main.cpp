@@ -4,12 +4,14 @@
 #include <CLI/CLI.hpp>
 #include <cstdio>
 #include <exception>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "LinearTypes.h"
 #include "MarkImage.h"
 #include "PngWriter.h"
+#include "ReadBack.h"
 #include "Request.h"
 #include "SvgWriter.h"
 
@@ -23,6 +25,7 @@ struct Options {
   preview::Request request;
   std::vector<std::string> outputs;
   bool darkPart = false;
+  bool verify = false;
   double beam = 0.0;           // 0: as wide as the gap
   double margin = -1.0;        // negative: a tenth of the width
   double pixelsPerUnit = 0.0;  // 0: 1600 pixels across
@@ -82,6 +85,8 @@ void Describe(CLI::App& app, Options& options) {
                  "file to write, .svg or .png; may be given several times")
       ->check(CheckOutput)
       ->required();
+  app.add_flag("--verify", options.verify,
+               "read the drawn symbol back with an independent reader; exit code 1 if it cannot");
   app.add_flag("--dark-part", options.darkPart,
                "light marks on a dark part instead of dark marks on a light one");
   app.add_option("--beam", options.beam, "width of a stroke (default: the gap)")
@@ -95,19 +100,46 @@ void Describe(CLI::App& app, Options& options) {
   app.footer(preview::LinearTypeList());
 }
 
-bool WriteOne(const std::string& path, const FillBufferInfo& fill, const Options& options) {
+preview::View ViewOf(const Options& options) {
   const preview::Request& request = options.request;
   const double beam = options.beam > 0.0 ? options.beam : request.gap;
   const double margin = options.margin >= 0.0 ? options.margin : request.width / 10;
-  const preview::View view{request.width, request.height, margin, beam,
-                           options.darkPart ? preview::Part::kDark : preview::Part::kLight};
-  if (EndsWith(path, ".svg")) return preview::WriteSvg(path, fill, view);
-  const double across = request.width + 2 * margin;
+  return {request.width, request.height, margin, beam,
+          options.darkPart ? preview::Part::kDark : preview::Part::kLight};
+}
+
+std::optional<preview::Picture> DrawPicture(const FillBufferInfo& fill, const Options& options) {
+  const preview::View view = ViewOf(options);
+  const double across = view.width + 2 * view.margin;
   const double pixelsPerUnit =
       options.pixelsPerUnit > 0.0 ? options.pixelsPerUnit : 1600.0 / across;
-  if (across * (request.height + 2 * margin) * pixelsPerUnit * pixelsPerUnit > kLargestPicture)
+  if (across * (view.height + 2 * view.margin) * pixelsPerUnit * pixelsPerUnit > kLargestPicture) {
+    return std::nullopt;
+  }
+  return preview::Draw(preview::MarksOf(fill, view.beam), view, pixelsPerUnit);
+}
+
+bool WriteOne(const std::string& path, const FillBufferInfo& fill, const Options& options) {
+  if (EndsWith(path, ".svg")) return preview::WriteSvg(path, fill, ViewOf(options));
+  const std::optional<preview::Picture> picture = DrawPicture(fill, options);
+  return picture && preview::WritePng(path, *picture);
+}
+
+bool Verify(const FillBufferInfo& fill, const Options& options) {
+  if (!preview::CanReadBack()) {
+    std::fprintf(stderr, "barhatch: built without a reader, cannot verify\n");
     return false;
-  return preview::WritePng(path, preview::Draw(preview::MarksOf(fill, beam), view, pixelsPerUnit));
+  }
+  const std::optional<preview::Picture> picture = DrawPicture(fill, options);
+  const std::optional<preview::Reading> reading =
+      picture ? preview::ReadBack(*picture) : std::nullopt;
+  if (!reading) {
+    std::fprintf(stderr, "barhatch: the reader finds no symbol in the picture\n");
+    return false;
+  }
+  std::printf("%s reads %s \"%s\"\n", reading->reader.c_str(), reading->format.c_str(),
+              reading->text.c_str());
+  return true;
 }
 
 int Run(const Options& options) {
@@ -127,6 +159,7 @@ int Run(const Options& options) {
       return kRefused;
     }
   }
+  if (options.verify && !Verify(*fill, options)) return kRefused;
   return 0;
 }
 

@@ -1,0 +1,31 @@
+#include "ReadBack.h"
+
+#ifdef BARHATCH_HAVE_ZXING
+#define ZX_USE_UTF8 1
+#include <ZXing/ReadBarcode.h>
+#endif
+
+namespace preview {
+
+#ifdef BARHATCH_HAVE_ZXING
+
+bool CanReadBack() { return true; }
+
+std::optional<Reading> ReadBack(const Picture& picture) {
+  const ZXing::ImageView view(picture.pixels.data(), static_cast<int>(picture.width),
+                              static_cast<int>(picture.height), ZXing::ImageFormat::Lum);
+  const ZXing::DecodeHints hints;
+  const ZXing::Result result = ZXing::ReadBarcode(view, hints);
+  if (!result.isValid()) return std::nullopt;
+  return Reading{"zxing-cpp", ZXing::ToString(result.format()), result.text()};
+}
+
+#else
+
+bool CanReadBack() { return false; }
+
+std::optional<Reading> ReadBack(const Picture&) { return std::nullopt; }
+
+#endif
+
+}  // namespace preview
