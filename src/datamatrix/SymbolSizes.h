@@ -1,0 +1,70 @@
+// The 30 symbol sizes of ECC 200 (ISO/IEC 16022) and the choice of one for a number of data
+// codewords and a requested size.
+//
+// The request has two families. Rows equal to columns, 0 x 0 included, ask for a square; all other
+// requests ask for a rectangle. The smallest size of the family that holds the codewords is taken
+// and then enlarged to the request. Five codewords and a request of 24 x 24 give the 24 x 24
+// symbol; ten codewords and 10 x 10 give 16 x 16 when the symbol may grow and nothing when it may
+// not.
+//
+// Hosts depend on these rules to the letter, also where one would choose differently:
+//  - a request that is met by no size is refused only when the enlargement gets to it: four
+//    codewords and 11 x 11 become 12 x 12, three are refused
+//  - an enlarged size is never exchanged for a larger one: 16 codewords and 8 x 32 are refused
+//  - rectangles are tried by capacity: six codewords and 12 x 26 are refused without permission to
+//    grow, as 8 x 32 comes first and is wider than the request
+//  - a rectangle that has become too small becomes a square, if it may grow and the square covers
+//    it: 50 codewords and 8 x 32 become 32 x 32, but 16 x 48 is refused
+#ifndef BARHATCH_DATAMATRIX_SYMBOLSIZES_H
+#define BARHATCH_DATAMATRIX_SYMBOLSIZES_H
+
+#include <cstdint>
+
+namespace barhatch {
+
+// One row of the standard's table. The mapping matrix is the symbol without finder, clock and
+// alignment patterns; regions are counted downwards and across.
+struct SymbolSize {
+  int symbolRows;
+  int symbolColumns;
+  int regionsDown;
+  int regionsAcross;
+  int mappingRows;
+  int mappingColumns;
+  int dataCodewords;   // of all blocks together
+  int errorCodewords;  // of all blocks together
+  int blocks;          // interleaved Reed-Solomon blocks
+};
+
+constexpr int kSquareSizeCount = 24;
+constexpr int kRectangularSizeCount = 6;
+
+// By capacity, ascending.
+extern const SymbolSize kSquareSizes[kSquareSizeCount];
+extern const SymbolSize kRectangularSizes[kRectangularSizeCount];
+
+constexpr int kMaxDataCodewords = 1558;  // 144 x 144
+constexpr int kMaxCodewords = 2178;      // 144 x 144: 1558 + 620
+
+// What the host asks for. isExpanding is kept as given: 0 forbids the symbol to grow beyond rows
+// and columns, every other value allows it, but only 1 lets a rectangle become a square.
+struct SizeRequest {
+  int rows;     // 0..255
+  int columns;  // 0..255
+  std::int32_t isExpanding;
+};
+
+// matrixSize: rows in bits 8 to 15, columns in bits 0 to 7; the higher bits have no meaning.
+SizeRequest RequestFromMatrixSize(std::int32_t matrixSize, std::int32_t isExpanding);
+
+// The size that `codewords` data codewords (0 and more) get under the request. False, and `chosen`
+// unchanged, when the request is refused; always so for more than kMaxDataCodewords.
+bool ChooseSymbolSize(int codewords, const SizeRequest& request, SymbolSize& chosen);
+
+// The smallest data capacity of a square that is greater than the count (3 for 2, 5 for 3); 0 when
+// there is none, that is from kMaxDataCodewords on.
+int SquareCapacityAbove(int codewords);
+
+}  // namespace barhatch
+
+#endif
