@@ -1,0 +1,121 @@
+#include "datamatrix/ReedSolomon.h"
+
+#include <cassert>
+#include <cstddef>
+#include <cstring>
+
+namespace barhatch {
+
+namespace {
+
+constexpr int kFieldPolynomial = 0x12D;
+constexpr int kOrder = 255;  // of the multiplicative group: 2^255 = 1
+
+// A sum of two logarithms, at most 254 + 254, needs no reduction before it is looked up.
+struct Field {
+  std::uint8_t antilog[2 * kOrder];
+  std::uint8_t log[256];  // log[0] has no meaning
+};
+
+constexpr Field MakeField() {
+  Field field{};
+  int value = 1;
+  for (int exponent = 0; exponent < kOrder; ++exponent) {
+    field.antilog[exponent] = static_cast<std::uint8_t>(value);
+    field.antilog[exponent + kOrder] = static_cast<std::uint8_t>(value);
+    field.log[value] = static_cast<std::uint8_t>(exponent);
+    value *= 2;
+    if (value >= 256) value ^= kFieldPolynomial;
+  }
+  return field;
+}
+constexpr Field kField = MakeField();
+static_assert(kField.antilog[8] == 0x2D, "x^8 is the rest of the field polynomial");
+static_assert(kField.antilog[255] == 1 && kField.log[1] == 0, "2 generates the whole group");
+
+constexpr int kDegrees[] = {5, 7, 10, 11, 12, 14, 18, 20, 24, 28, 36, 42, 48, 56, 62, 68};
+constexpr int kMaxDegree = 68;
+
+constexpr int SumOfDegrees() {
+  int sum = 0;
+  for (int degree : kDegrees) sum += degree;
+  return sum;
+}
+
+// The generator polynomials one after the other, each as the logarithms of its coefficients from
+// x^(k-1) down to x^0. The leading one is 1; none is 0, as the polynomial is itself a codeword and
+// codewords that differ, differ in k + 1 places.
+struct Generators {
+  std::uint8_t logs[SumOfDegrees()];
+};
+
+// Multiplies the polynomial of the given degree, in ascending powers, by x + 2^(degree + 1).
+constexpr void MultiplyByNextRoot(std::uint8_t (&polynomial)[kMaxDegree + 1], int degree) {
+  for (int power = degree + 1; power >= 0; --power) {
+    const int shifted = power > 0 ? polynomial[power - 1] : 0;
+    const int kept =
+        power <= degree ? kField.antilog[kField.log[polynomial[power]] + degree + 1] : 0;
+    polynomial[power] = static_cast<std::uint8_t>(shifted ^ kept);
+  }
+}
+
+constexpr Generators MakeGenerators() {
+  Generators generators{};
+  std::uint8_t polynomial[kMaxDegree + 1] = {1};
+  int degree = 0;
+  int written = 0;
+  for (int wanted : kDegrees) {
+    for (; degree < wanted; ++degree) MultiplyByNextRoot(polynomial, degree);
+    for (int power = degree - 1; power >= 0; --power)
+      generators.logs[written++] = kField.log[polynomial[power]];
+  }
+  return generators;
+}
+constexpr Generators kGenerators = MakeGenerators();
+
+// offset: where the logarithms of the generator begin; coefficients: from x^0 up.
+template <std::size_t degree>
+constexpr bool GeneratorAtIs(std::size_t offset, const int (&coefficients)[degree]) {
+  for (std::size_t power = 0; power < degree; ++power) {
+    const std::uint8_t log = kGenerators.logs[offset + degree - 1 - power];
+    if (kField.antilog[log] != coefficients[power]) return false;
+  }
+  return true;
+}
+static_assert(GeneratorAtIs(0, {228, 48, 15, 111, 62}), "ISO/IEC 16022, five error codewords");
+static_assert(GeneratorAtIs(5, {23, 68, 144, 134, 240, 92, 254}), "seven error codewords");
+
+const std::uint8_t* GeneratorLogs(int degree) {
+  const std::uint8_t* logs = kGenerators.logs;
+  for (int listed : kDegrees) {
+    if (listed == degree) return logs;
+    logs += listed;
+  }
+  return nullptr;
+}
+
+// One step of the division by the generator: the remainder moves up by one power, and the generator
+// times the codeword that leaves at the top is added. remainder[degree] is 0.
+void DivideStep(const std::uint8_t* generatorLogs, int degree, int leading,
+                std::uint8_t* remainder) {
+  if (leading == 0) {
+    std::memmove(remainder, remainder + 1, static_cast<std::size_t>(degree));
+    return;
+  }
+  const std::uint8_t* const products = kField.antilog + kField.log[leading];
+  for (int i = 0; i < degree; ++i)
+    remainder[i] = static_cast<std::uint8_t>(remainder[i + 1] ^ products[generatorLogs[i]]);
+}
+
+}  // namespace
+
+void EncodeBlock(std::uint8_t* block, int dataCodewords, int errorCodewords, int stride) {
+  const std::uint8_t* const generatorLogs = GeneratorLogs(errorCodewords);
+  assert(generatorLogs != nullptr);
+  std::uint8_t remainder[kMaxDegree + 1] = {};
+  for (int i = 0; i < dataCodewords; ++i)
+    DivideStep(generatorLogs, errorCodewords, block[i * stride] ^ remainder[0], remainder);
+  for (int i = 0; i < errorCodewords; ++i) block[(dataCodewords + i) * stride] = remainder[i];
+}
+
+}  // namespace barhatch
