@@ -1,0 +1,140 @@
+#include "datamatrix/SymbolGrid.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "support/AllocationGate.h"
+#include "support/GridText.h"
+#include "support/OwnedGrid.h"
+#include "support/SymbolSizeReference.h"
+
+namespace barhatch {
+namespace {
+
+using test::OwnedGrid;
+using test::ReferenceSize;
+
+SymbolSize SizeOf(const ReferenceSize& reference) {
+  SymbolSize size{};
+  EXPECT_TRUE(ChooseSymbolSize(reference.data, {reference.rows, reference.columns, 0}, size));
+  EXPECT_EQ(size.symbolColumns, reference.columns);
+  return size;
+}
+
+OwnedGrid Draw(const ReferenceSize& size, const std::string& mapping,
+               QuietBorder border = QuietBorder::kNone) {
+  EXPECT_EQ(mapping.size(), static_cast<std::size_t>(size.mappingRows * size.mappingColumns));
+  return OwnedGrid(NewGrid(SizeOf(size), border, mapping.data()));
+}
+
+std::string Filled(const ReferenceSize& size, char letter) {
+  return std::string(static_cast<std::size_t>(size.mappingRows * size.mappingColumns), letter);
+}
+
+// A mapping matrix in which no two cells near each other are easily confused.
+std::string Mixed(const ReferenceSize& size) {
+  std::string mapping = Filled(size, 'a');
+  for (std::size_t i = 0; i < mapping.size(); ++i) {
+    if ((i * i / 3 + i / 7) % 3 == 0) mapping[i] = 'A';
+  }
+  return mapping;
+}
+
+ReferenceSize Size(int rows, int columns) {
+  for (const ReferenceSize& size : test::ReferenceSizes())
+    if (size.rows == rows && size.columns == columns) return size;
+  ADD_FAILURE();
+  return {};
+}
+
+TEST(SymbolGrid, SmallestSquareIsOneFramedRegion) {
+  const ReferenceSize size = Size(10, 10);
+  EXPECT_EQ(test::FromLetters(Draw(size, Filled(size, 'a')).Letters(), 10),
+            (std::vector<std::string>{"#.#.#.#.#.",  //
+                                      "#........#",  //
+                                      "#.........",  //
+                                      "#........#",  //
+                                      "#.........",  //
+                                      "#........#",  //
+                                      "#.........",  //
+                                      "#........#",  //
+                                      "#.........",  //
+                                      "##########"}));
+}
+
+TEST(SymbolGrid, RectangleOfTwoRegionsHasAnAlignmentPatternInTheMiddle) {
+  const ReferenceSize size = Size(8, 32);
+  EXPECT_EQ(test::FromLetters(Draw(size, Filled(size, 'a')).Letters(), 32),
+            (std::vector<std::string>{"#.#.#.#.#.#.#.#.#.#.#.#.#.#.#.#.",  //
+                                      "#..............##..............#",  //
+                                      "#...............#...............",  //
+                                      "#..............##..............#",  //
+                                      "#...............#...............",  //
+                                      "#..............##..............#",  //
+                                      "#...............#...............",  //
+                                      "################################"}));
+}
+
+// Module by module from the standard's text: finder at the left and at the bottom of every region,
+// alternating modules at its top and right, all else the mapping matrix in its order.
+TEST(SymbolGrid, EveryModuleOfEverySizeIsAsTheStandardSays) {
+  for (const ReferenceSize& size : test::ReferenceSizes()) {
+    const std::string mapping = Mixed(size);
+    const std::string letters = Draw(size, mapping).Letters();
+    ASSERT_EQ(letters.size(), static_cast<std::size_t>(size.rows * size.columns));
+    const int height = size.rows / test::RegionsOf(size.rows, size.columns).down;
+    const int width = size.columns / test::RegionsOf(size.rows, size.columns).across;
+    std::size_t nextCell = 0;
+    for (int row = 0; row < size.rows; ++row) {
+      for (int column = 0; column < size.columns; ++column) {
+        char expected = '\0';
+        if (column % width == 0 || row % height == height - 1) {
+          expected = 'A';
+        } else if (row % height == 0) {
+          expected = column % width % 2 == 0 ? 'A' : 'a';
+        } else if (column % width == width - 1) {
+          expected = row % height % 2 == 1 ? 'A' : 'a';
+        } else {
+          expected = mapping.at(nextCell++);
+        }
+        ASSERT_EQ(letters[static_cast<std::size_t>(row * size.columns + column)], expected)
+            << size.rows << "x" << size.columns << " at " << row << "," << column;
+      }
+    }
+    EXPECT_EQ(nextCell, mapping.size());
+  }
+}
+
+TEST(SymbolGrid, QuietBorderIsOneLightModuleOnEverySide) {
+  for (const ReferenceSize& size : test::ReferenceSizes()) {
+    const std::string mapping = Mixed(size);
+    const OwnedGrid grid = Draw(size, mapping, QuietBorder::kOneModule);
+    EXPECT_EQ(grid.Rows(), size.rows + 2);
+    EXPECT_EQ(grid.Columns(), size.columns + 2);
+    EXPECT_EQ(grid.Letters().size(),
+              static_cast<std::size_t>((size.rows + 2) * (size.columns + 2)));
+    EXPECT_EQ(grid.Ring(), std::string(grid.Ring().size(), 'a'));
+    EXPECT_EQ(grid.Inner(), Draw(size, mapping).Letters());
+  }
+}
+
+TEST(SymbolGrid, RefusalIsARecordOfZeros) {
+  const OwnedGrid grid(NewRefusedGrid());
+  EXPECT_TRUE(grid.IsRefused());
+}
+
+TEST(SymbolGrid, NoMemoryIsNull) {
+  const ReferenceSize size = Size(10, 10);
+  const std::string mapping = Mixed(size);
+  for (int failing : {0, 1}) {
+    const test::AllocationGate gate(failing);
+    EXPECT_TRUE(OwnedGrid(NewGrid(SizeOf(size), QuietBorder::kNone, mapping.data())).IsNull());
+  }
+  const test::AllocationGate gate(0);
+  EXPECT_TRUE(OwnedGrid(NewRefusedGrid()).IsNull());
+}
+
+}  // namespace
+}  // namespace barhatch

@@ -1,0 +1,66 @@
+// Symbols made of chosen codewords, through all stages behind the encodation, read back by
+// independent readers.
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "datamatrix/CodewordBuffer.h"
+#include "datamatrix/Interleaving.h"
+#include "datamatrix/Placement.h"
+#include "datamatrix/SymbolGrid.h"
+#include "support/MatrixReaders.h"
+#include "support/OwnedGrid.h"
+#include "support/SymbolSizeReference.h"
+
+namespace barhatch {
+namespace {
+
+using test::OwnedGrid;
+using test::ReferenceSize;
+
+// Two digits a codeword.
+std::string Digits(int codewords) {
+  std::string digits;
+  for (int i = 0; i < codewords; ++i) {
+    const int pair = (i * i + 7 * i) % 100;
+    digits += static_cast<char>('0' + pair / 10);
+    digits += static_cast<char>('0' + pair % 10);
+  }
+  return digits;
+}
+
+OwnedGrid Symbol(const ReferenceSize& reference, const std::string& digits) {
+  SymbolSize size{};
+  EXPECT_TRUE(ChooseSymbolSize(reference.data, {reference.rows, reference.columns, 0}, size));
+  CodewordBuffer codewords;
+  for (std::size_t i = 0; i < digits.size(); i += 2)
+    codewords.Append(130 + 10 * (digits[i] - '0') + (digits[i + 1] - '0'));
+  codewords.PadTo(size.dataCodewords);
+  AddErrorCorrection(size, codewords.data());
+  std::string mapping(static_cast<std::size_t>(size.mappingRows * size.mappingColumns), 'x');
+  PlaceCodewords(codewords.data(), size.mappingRows, size.mappingColumns, mapping.data());
+  return OwnedGrid(NewGrid(size, QuietBorder::kOneModule, mapping.data()));
+}
+
+TEST(SymbolReading, ZxingReadsEverySizeFullAndNearlyEmpty) {
+  for (const ReferenceSize& size : test::ReferenceSizes()) {
+    for (int codewords : {1, size.data - 1, size.data}) {
+      const OwnedGrid grid = Symbol(size, Digits(codewords));
+      EXPECT_EQ(test::ReadWithZxing(grid.Letters(), grid.Columns()), Digits(codewords))
+          << size.rows << "x" << size.columns << " with " << codewords;
+    }
+  }
+}
+
+// libdmtx takes the codewords of 144 x 144 in another order (D-DM-1).
+TEST(SymbolReading, LibdmtxReadsEverySizeButTheLargest) {
+  for (const ReferenceSize& size : test::ReferenceSizes()) {
+    if (size.rows == 144) continue;
+    const OwnedGrid grid = Symbol(size, Digits(size.data));
+    EXPECT_EQ(test::ReadWithLibdmtx(grid.Letters(), grid.Columns()), Digits(size.data))
+        << size.rows << "x" << size.columns;
+  }
+}
+
+}  // namespace
+}  // namespace barhatch
