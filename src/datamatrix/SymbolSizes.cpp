@@ -32,7 +32,7 @@ constexpr SymbolSize kSquareSizes[kSquareSizeCount] = {
     {104, 104,  4, 4,   96,  96,   816,  336,   6},
     {120, 120,  6, 6,  108, 108,  1050,  408,   6},
     {132, 132,  6, 6,  120, 120,  1304,  496,   8},
-    {144, 144,  6, 6,  132, 132,  1558,  620,  10},  // eight blocks of 156 data codewords, two of 155
+    {144, 144,  6, 6,  132, 132,  1558,  620,  10},  // blocks of 156 and 155
 };
 
 constexpr SymbolSize kRectangularSizes[kRectangularSizeCount] = {
@@ -76,8 +76,9 @@ constexpr bool OnlyTheLargestHasUnequalBlocks() {
   return true;
 }
 
-static_assert(AreConsistentAndAscending(kSquareSizes), "see the conditions");
-static_assert(AreConsistentAndAscending(kRectangularSizes), "see the conditions");
+static_assert(
+    AreConsistentAndAscending(kSquareSizes) && AreConsistentAndAscending(kRectangularSizes),
+    "codewords fill the matrix, regions have frames, blocks share alike, capacity ascends");
 static_assert(OnlyTheLargestHasUnequalBlocks(), "144 x 144 alone divides its data unequally");
 static_assert(LargestSquare().dataCodewords == kMaxDataCodewords, "the limit is that of 144 x 144");
 static_assert(LargestSquare().dataCodewords + LargestSquare().errorCodewords == kMaxCodewords,
