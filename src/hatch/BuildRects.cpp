@@ -9,12 +9,12 @@ namespace {
 bool IsNarrow(char letter) { return letter == kNarrowBar || letter == kNarrowSpace; }
 bool IsWide(char letter) { return letter == kWideBar || letter == kWideSpace; }
 
+}  // namespace
+
 bool IsFilled(char letter, FilledElements filled) {
   return filled == FilledElements::kDark ? letter == kNarrowBar || letter == kWideBar
                                          : letter == kNarrowSpace || letter == kWideSpace;
 }
-
-}  // namespace
 
 double ModuleCount(const char* moduleString, double printRatio) {
   double modules = 0.0;

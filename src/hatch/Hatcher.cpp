@@ -4,30 +4,52 @@
 #include "hatch/BuildRects.h"
 #include "hatch/FillBuffer.h"
 #include "hatch/HatchPatterns.h"
+#include "hatch/MatrixRects.h"
 
 namespace barhatch {
 
 namespace {
 
 constexpr double kQuietModulesOfBothEnds = 20.0;
+constexpr double kQuietCellsOfBothSides = 2.0;
 
 FilledElements FilledBySettings(const BarcodeSettings& settings) {
   return settings.InvertImage != 0 ? FilledElements::kLight : FilledElements::kDark;
 }
 
-// Counts first and writes once: the coordinates are written straight into the array that the host
-// will get.
-FillBufferInfo* FillOf(const RectList& rects, const BarcodeSettings& settings) {
-  const HatchStyle style{settings.HatchingType, settings.LineGap};
-  const DoubleCount mostDoubles = MostDoubles(rects, style);
-  if (mostDoubles <= 0) return nullptr;
-  CoordinateList coordinates(static_cast<std::size_t>(mostDoubles));
-  FillRects(rects, style, coordinates);
+HatchStyle StyleOf(const BarcodeSettings& settings) {
+  return {settings.HatchingType, settings.LineGap};
+}
+
+FillBufferInfo* PackFill(CoordinateList& coordinates, const BarcodeSettings& settings) {
   FillBufferInfo* fill = MakeFillBuffer(coordinates, settings.HatchingType);
   if (fill == nullptr) return nullptr;
   fill->FillHeight = settings.FillHeight;
   fill->FillWidth = settings.FillWidth;
   return fill;
+}
+
+// Both fills count first and write once: the coordinates go straight into the array that the host
+// will get.
+FillBufferInfo* FillOfList(const RectList& rects, const BarcodeSettings& settings) {
+  const HatchStyle style = StyleOf(settings);
+  const DoubleCount mostDoubles = MostDoubles(rects, style);
+  if (mostDoubles <= 0) return nullptr;
+  CoordinateList coordinates(static_cast<std::size_t>(mostDoubles));
+  FillRects(rects, style, coordinates);
+  return PackFill(coordinates, settings);
+}
+
+FillBufferInfo* FillOfRows(MatrixRects& matrix, int rows, const BarcodeSettings& settings) {
+  const HatchStyle style = StyleOf(settings);
+  DoubleCount mostDoubles = 0;
+  for (int row = 0; row < rows && mostDoubles != kUncountable; ++row) {
+    mostDoubles = AddCounts(mostDoubles, MostDoubles(matrix.Row(row), style));
+  }
+  if (mostDoubles <= 0) return nullptr;
+  CoordinateList coordinates(static_cast<std::size_t>(mostDoubles));
+  for (int row = 0; row < rows; ++row) FillRects(matrix.Row(row), style, coordinates);
+  return PackFill(coordinates, settings);
 }
 
 }  // namespace
@@ -45,7 +67,18 @@ FillBufferInfo* Hatcher::VectorizeLinear(const char* moduleString) {
 
   settings.FillHeight = settings.height;
   settings.FillWidth = end - kQuietModulesOfBothEnds * moduleSize;
-  return rects.HasFailed() ? nullptr : FillOf(rects, settings);
+  return rects.HasFailed() ? nullptr : FillOfList(rects, settings);
+}
+
+FillBufferInfo* Hatcher::VectorizeMatrix(const TwoDStringResult& matrix) {
+  if (matrix.numrows <= 0 || matrix.numcols <= 0 || matrix.data == nullptr) return nullptr;
+  BarcodeSettings& settings = CurrentSettings();
+  const double cellSize = settings.height / matrix.numrows;
+  MatrixRects rects(matrix, cellSize, FilledBySettings(settings));
+
+  settings.FillHeight = settings.height - kQuietCellsOfBothSides * cellSize;
+  settings.FillWidth = rects.Width() - kQuietCellsOfBothSides * cellSize;
+  return rects.HasFailed() ? nullptr : FillOfRows(rects, matrix.numrows, settings);
 }
 
 }  // namespace barhatch

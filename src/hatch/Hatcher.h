@@ -20,6 +20,13 @@ class Hatcher {
   // them). Null when the string has no module or nothing was filled, when the fill does not fit a
   // fill buffer, and when there is no memory; a string without a module leaves the extents alone.
   FillBufferInfo* VectorizeLinear(const char* moduleString);
+
+  // A matrix, row by row from the bottom, in square cells of height / rows; the width setting plays
+  // no part. Every row is filled on its own, so alternating strokes start forward in each. Writes
+  // the extents FillHeight and FillWidth, both less two cells, whether or not the matrix has the
+  // quiet zone that these are. Null, and the extents left alone, for a matrix without rows, columns
+  // or data; null as above where nothing was filled or there is no memory.
+  FillBufferInfo* VectorizeMatrix(const TwoDStringResult& matrix);
 };
 
 }  // namespace barhatch
