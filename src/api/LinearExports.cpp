@@ -1,4 +1,5 @@
 // A linear barcode as a fill buffer: from a module string, from the settings, from one record.
+#include "api/ApiTrace.h"
 #include "api/BarcodeSettings.h"
 #include "api/DataText.h"
 #include "api/Ownership.h"
@@ -28,12 +29,14 @@ void CopyRecord(const LinearBarcodeInfo& info, barhatch::BarcodeSettings& settin
 extern "C" {
 
 FillBufferInfo* HatchBarcodeString(const char* moduleString) {
+  barhatch::TraceHatchBarcodeString(moduleString);
   if (moduleString == nullptr) return nullptr;
   barhatch::Hatcher hatcher;
   return hatcher.VectorizeLinear(moduleString);
 }
 
 FillBufferInfo* GenerateVectorizedBarcode(void) {
+  barhatch::TraceGenerateVectorizedBarcode();
   char* moduleString = GenerateBarcodeString();
   if (moduleString == nullptr) return nullptr;
   FillBufferInfo* fill = HatchBarcodeString(moduleString);
@@ -42,6 +45,7 @@ FillBufferInfo* GenerateVectorizedBarcode(void) {
 }
 
 FillBufferInfo* GenerateLinearBarcode(const LinearBarcodeInfo* info) {
+  barhatch::TraceGenerateLinearBarcode(info);
   if (info == nullptr || !barhatch::IsStorableText(info->DataString)) return nullptr;
   CopyRecord(*info, barhatch::CurrentSettings());
   return GenerateVectorizedBarcode();

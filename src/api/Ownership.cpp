@@ -2,6 +2,8 @@
 
 #include <new>
 
+#include "api/ApiTrace.h"
+
 namespace barhatch {
 
 FillBufferInfo* NewFillBuffer() { return new (std::nothrow) FillBufferInfo{}; }
@@ -12,6 +14,7 @@ void ReleaseModuleString(const char* moduleString) { delete[] moduleString; }
 
 extern "C" void FreeBarcodeData(FillBufferInfo* fill) {
   if (fill == nullptr) return;
+  barhatch::TraceFreeBarcodeData(fill);
   delete[] fill->FilledArray;
   delete fill;
 }

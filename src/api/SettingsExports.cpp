@@ -1,4 +1,6 @@
-// InitBarcode, the setters and GenerateBarcodeString: each writes its fields and checks nothing.
+// InitBarcode, the setters and GenerateBarcodeString: each traces itself (InitBarcode does not),
+// writes its fields and checks nothing.
+#include "api/ApiTrace.h"
 #include "api/BarcodeSettings.h"
 #include "api/DataText.h"
 #include "barhatch.h"
@@ -10,9 +12,13 @@ extern "C" {
 
 void InitBarcode(void) { barhatch::ResetSettings(CurrentSettings()); }
 
-void SetBarcodeType(int32_t type) { CurrentSettings().type = type; }
+void SetBarcodeType(int32_t type) {
+  barhatch::TraceSetBarcodeType(type);
+  CurrentSettings().type = type;
+}
 
 void SetDataString(const BarhatchChar* text) {
+  barhatch::TraceSetDataString(text);
   barhatch::BarcodeSettings& settings = CurrentSettings();
   if (barhatch::IsStorableText(text)) {
     barhatch::StoreText(text, settings);
@@ -22,27 +28,45 @@ void SetDataString(const BarhatchChar* text) {
   }
 }
 
-void SetModuleWidth(double moduleWidth) { CurrentSettings().ModuleWidth = moduleWidth; }
+void SetModuleWidth(double moduleWidth) {
+  barhatch::TraceSetModuleWidth(moduleWidth);
+  CurrentSettings().ModuleWidth = moduleWidth;
+}
 
-void SetPrintRatio(double ratio) { CurrentSettings().PrintRatio = ratio; }
+void SetPrintRatio(double ratio) {
+  barhatch::TraceSetPrintRatio(ratio);
+  CurrentSettings().PrintRatio = ratio;
+}
 
-void SetImageInversionMode(uint8_t invert) { CurrentSettings().InvertImage = invert; }
+void SetImageInversionMode(uint8_t invert) {
+  barhatch::TraceSetImageInversionMode(invert);
+  CurrentSettings().InvertImage = invert;
+}
 
 void SetHatchPattern(double lineGap, int32_t hatchingType) {
+  barhatch::TraceSetHatchPattern(lineGap, hatchingType);
   CurrentSettings().LineGap = lineGap;
   CurrentSettings().HatchingType = hatchingType;
 }
 
 void SetBarcodeSize(double width, double height) {
+  barhatch::TraceSetBarcodeSize(width, height);
   CurrentSettings().width = width;
   CurrentSettings().height = height;
 }
 
-void SetBarcodeHeight(int32_t height) { CurrentSettings().height = height; }
+void SetBarcodeHeight(int32_t height) {
+  barhatch::TraceSetBarcodeHeight(height);
+  CurrentSettings().height = height;
+}
 
-void SetCodeFormat(int32_t format) { CurrentSettings().format = format; }
+void SetCodeFormat(int32_t format) {
+  barhatch::TraceSetCodeFormat(format);
+  CurrentSettings().format = format;
+}
 
 char* GenerateBarcodeString(void) {
+  barhatch::TraceGenerateBarcodeString();
   if (CurrentSettings().DataStringRefused) return nullptr;
   barhatch::Symbology* symbology = barhatch::SymbologyFactory(CurrentSettings().type);
   if (symbology == nullptr) return nullptr;
@@ -53,4 +77,7 @@ char* GenerateBarcodeString(void) {
 
 }  // extern "C"
 
-void SetMatrixsize(enum _matrixSize size) { CurrentSettings().MatrixSize = size; }
+void SetMatrixsize(enum _matrixSize size) {
+  barhatch::TraceSetMatrixsize(size);
+  CurrentSettings().MatrixSize = size;
+}

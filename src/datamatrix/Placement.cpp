@@ -104,9 +104,10 @@ class Walk {
   }
 
   void PlaceWrappedUtah(int row, int column, int codeword) {
-    for (int bit = 0; bit < 8; ++bit)
+    for (int bit = 0; bit < 8; ++bit) {
       PlaceWrapped(row + kUtah.places[bit].row, column + kUtah.places[bit].column,
                    LetterOfBit(codeword, bit));
+    }
   }
 
   void PlaceWrapped(int row, int column, char letter) {
