@@ -2,10 +2,10 @@
 // buffer, beside what the memory alone costs: the same bytes obtained by malloc, written once and
 // freed. The fill should reach at least half the rate of "malloc, memset, free".
 //
-// Two sizes, because the C library of Linux treats them differently: 1,000 thousand segments are just
-// below 32 MiB, where a freed block is kept and the next fill writes memory that is still in the
-// cache (memset then beats every ordinary store by its wide instructions); 1,100 thousand are above
-// it, and every fill gets fresh pages from the system.
+// Two sizes, because the C library of Linux treats them differently: 1,000 thousand segments are
+// just below 32 MiB, where a freed block is kept and the next fill writes memory that is still in
+// the cache (memset then beats every ordinary store by its wide instructions); 1,100 thousand are
+// above it, and every fill gets fresh pages from the system.
 #include <benchmark/benchmark.h>
 
 #include <cstdlib>
