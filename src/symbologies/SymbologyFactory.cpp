@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <new>
 
+#include "symbologies/Code128Symbologies.h"
 #include "symbologies/Code39Symbology.h"
+#include "symbologies/Interleaved2of5Symbology.h"
 
 namespace barhatch {
 
@@ -72,6 +74,16 @@ Symbology* SymbologyFactory(std::int32_t type) {
   switch (kSymbologies[type].encoder) {
     case EncoderClass::kCode39:
       return new (std::nothrow) Code39Symbology;
+    case EncoderClass::kCode128Auto:
+      return new (std::nothrow) Code128AutoSymbology;
+    case EncoderClass::kCode128A:
+      return new (std::nothrow) Code128ASymbology;
+    case EncoderClass::kCode128B:
+      return new (std::nothrow) Code128BSymbology;
+    case EncoderClass::kCode128C:
+      return new (std::nothrow) Code128CSymbology;
+    case EncoderClass::kInterleaved2of5:
+      return new (std::nothrow) Interleaved2of5Symbology;
     default:
       return nullptr;
   }

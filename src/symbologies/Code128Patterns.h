@@ -1,0 +1,46 @@
+// Symbol characters of Code 128 (ISO/IEC 15417): the value of each character, the elements it is
+// drawn with, and the check character of a symbol.
+//
+// A symbol is a start character, data and code-set switches, one check character, the stop
+// character and a termination bar. "A" in set B is 104 33 34: start B, 'A', check; each of the
+// three and the stop character has three bars and three spaces of 11 modules in all, and the
+// termination bar has two, which makes 46 modules.
+#ifndef BARHATCH_SYMBOLOGIES_CODE128PATTERNS_H
+#define BARHATCH_SYMBOLOGIES_CODE128PATTERNS_H
+
+#include <cstdint>
+
+#include "symbologies/ModuleStringBuilder.h"
+
+namespace barhatch {
+
+// Values with a name; all others are data. A switch has the same value in every set it can be
+// written in.
+constexpr std::uint8_t kCode128SwitchToC = 99;
+constexpr std::uint8_t kCode128SwitchToB = 100;
+constexpr std::uint8_t kCode128StartA = 103;
+constexpr std::uint8_t kCode128StartB = 104;
+constexpr std::uint8_t kCode128StartC = 105;
+constexpr std::uint8_t kCode128Stop = 106;
+
+constexpr int kCode128CharacterModules = 11;
+constexpr int kCode128TerminationBarModules = 2;
+
+// The six element widths of a value in modules, bar first, as digits: "212222" for 0. The stop
+// character comes without its termination bar. Null for a value outside 0..106.
+const char* Code128Widths(int value);
+
+// Appends the 11 modules of a value. REQUIRES: value in 0..106.
+void AppendCode128Character(ModuleStringBuilder& builder, int value);
+
+// Appends the stop character and the termination bar, 13 modules.
+void AppendCode128Stop(ModuleStringBuilder& builder);
+
+// The check character of the values from the start character to the last data or switch value: the
+// start counts once, each later value as often as its position says, modulo 103.
+// 104 33 gives (104 + 1 x 33) mod 103 = 34. REQUIRES: count in 1..1000, values in 0..106.
+std::uint8_t Code128CheckValue(const std::uint8_t* values, int count);
+
+}  // namespace barhatch
+
+#endif
