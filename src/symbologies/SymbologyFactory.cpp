@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <new>
 
+#include "symbologies/CodabarSymbology.h"
+#include "symbologies/Code11Symbology.h"
 #include "symbologies/Code128Symbologies.h"
 #include "symbologies/Code39Symbology.h"
 #include "symbologies/Interleaved2of5Symbology.h"
@@ -71,7 +73,10 @@ static_assert(RowsAreIndexedByType(), "the type is the index of its row");
 
 Symbology* SymbologyFactory(std::int32_t type) {
   if (static_cast<std::uint32_t>(type) >= kSymbologyCount) return nullptr;
-  switch (kSymbologies[type].encoder) {
+  const SymbologyRow& row = kSymbologies[type];
+  switch (row.encoder) {
+    case EncoderClass::kCodabar:
+      return new (std::nothrow) CodabarSymbology;
     case EncoderClass::kCode39:
       return new (std::nothrow) Code39Symbology;
     case EncoderClass::kCode128Auto:
@@ -82,6 +87,8 @@ Symbology* SymbologyFactory(std::int32_t type) {
       return new (std::nothrow) Code128BSymbology;
     case EncoderClass::kCode128C:
       return new (std::nothrow) Code128CSymbology;
+    case EncoderClass::kCode11:
+      return new (std::nothrow) Code11Symbology;
     case EncoderClass::kInterleaved2of5:
       return new (std::nothrow) Interleaved2of5Symbology;
     default:
