@@ -8,6 +8,7 @@
 #include "symbologies/Code128Symbologies.h"
 #include "symbologies/Code39Symbology.h"
 #include "symbologies/Interleaved2of5Symbology.h"
+#include "symbologies/MsiSymbology.h"
 
 namespace barhatch {
 
@@ -79,6 +80,8 @@ Symbology* SymbologyFactory(std::int32_t type) {
       return new (std::nothrow) CodabarSymbology;
     case EncoderClass::kCode39:
       return new (std::nothrow) Code39Symbology;
+    case EncoderClass::kMsi:
+      return new (std::nothrow) MsiSymbology;
     case EncoderClass::kCode128Auto:
       return new (std::nothrow) Code128AutoSymbology;
     case EncoderClass::kCode128A:
