@@ -7,6 +7,7 @@
 #include "symbologies/Code11Symbology.h"
 #include "symbologies/Code128Symbologies.h"
 #include "symbologies/Code39Symbology.h"
+#include "symbologies/Code93Symbology.h"
 #include "symbologies/Interleaved2of5Symbology.h"
 #include "symbologies/MsiSymbology.h"
 
@@ -80,6 +81,9 @@ Symbology* SymbologyFactory(std::int32_t type) {
       return new (std::nothrow) CodabarSymbology;
     case EncoderClass::kCode39:
       return new (std::nothrow) Code39Symbology;
+    case EncoderClass::kCode93:
+      return new (std::nothrow)
+          Code93Symbology(row.fullAscii ? Code93Input::kFullAscii : Code93Input::kNativeSet);
     case EncoderClass::kMsi:
       return new (std::nothrow) MsiSymbology;
     case EncoderClass::kCode128Auto:
