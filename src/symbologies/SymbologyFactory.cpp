@@ -8,8 +8,11 @@
 #include "symbologies/Code128Symbologies.h"
 #include "symbologies/Code39Symbology.h"
 #include "symbologies/Code93Symbology.h"
+#include "symbologies/Ean13UpcASymbologies.h"
+#include "symbologies/Ean8Symbologies.h"
 #include "symbologies/Interleaved2of5Symbology.h"
 #include "symbologies/MsiSymbology.h"
+#include "symbologies/UpcESymbologies.h"
 
 namespace barhatch {
 
@@ -84,6 +87,8 @@ Symbology* SymbologyFactory(std::int32_t type) {
     case EncoderClass::kCode93:
       return new (std::nothrow)
           Code93Symbology(row.fullAscii ? Code93Input::kFullAscii : Code93Input::kNativeSet);
+    case EncoderClass::kEan13:
+      return new (std::nothrow) Ean13Symbology;
     case EncoderClass::kMsi:
       return new (std::nothrow) MsiSymbology;
     case EncoderClass::kCode128Auto:
@@ -94,8 +99,30 @@ Symbology* SymbologyFactory(std::int32_t type) {
       return new (std::nothrow) Code128BSymbology;
     case EncoderClass::kCode128C:
       return new (std::nothrow) Code128CSymbology;
+    case EncoderClass::kUpcA:
+      return new (std::nothrow) UpcASymbology;
+    case EncoderClass::kUpcE:
+      return new (std::nothrow) UpcESymbology;
     case EncoderClass::kCode11:
       return new (std::nothrow) Code11Symbology;
+    case EncoderClass::kEan8:
+      return new (std::nothrow) Ean8Symbology;
+    case EncoderClass::kUpcAAddon2:
+      return new (std::nothrow) UpcAAddon2Symbology;
+    case EncoderClass::kUpcAAddon5:
+      return new (std::nothrow) UpcAAddon5Symbology;
+    case EncoderClass::kEan13Addon2:
+      return new (std::nothrow) Ean13Addon2Symbology;
+    case EncoderClass::kEan13Addon5:
+      return new (std::nothrow) Ean13Addon5Symbology;
+    case EncoderClass::kEan8Addon2:
+      return new (std::nothrow) Ean8Addon2Symbology;
+    case EncoderClass::kEan8Addon5:
+      return new (std::nothrow) Ean8Addon5Symbology;
+    case EncoderClass::kUpcEAddon2:
+      return new (std::nothrow) UpcEAddon2Symbology;
+    case EncoderClass::kUpcEAddon5:
+      return new (std::nothrow) UpcEAddon5Symbology;
     case EncoderClass::kInterleaved2of5:
       return new (std::nothrow) Interleaved2of5Symbology;
     default:
