@@ -15,7 +15,8 @@ constexpr std::size_t kUsualCapacity =
     31170;  // what a Code 93 module string has always been allocated with
 constexpr char kTerminationBar[] = "1";
 
-struct CheckValues {
+struct TextSums {
+  std::size_t characters;  // symbol characters of the text, those without a value among them
   int c;
   int k;
 };
@@ -27,30 +28,23 @@ bool IsInNativeSet(const char* text) {
   return true;
 }
 
-std::size_t CountCharacters(const char* text) {
-  std::size_t count = 0;
-  for (; *text != '\0'; ++text) count += static_cast<std::size_t>(ExpandCode93(*text).count);
-  return count;
-}
-
-void AddFromTheRight(const char* text, CyclicWeightedSum& sum) {
+TextSums SumFromTheRight(const char* text) {
+  TextSums sums = {0, 0, 0};
+  CyclicWeightedSum weightedForC(1, 20);
+  CyclicWeightedSum weightedForK(1, 15);
+  weightedForK.Add(0);  // the place of C, whose value is known at the end: weight 1
   for (std::size_t i = std::strlen(text); i-- > 0;) {
     const Code93Expansion& expansion = ExpandCode93(text[i]);
+    sums.characters += static_cast<std::size_t>(expansion.count);
     for (int part = expansion.count; part-- > 0;) {
-      if (expansion.values[part] != kCode93NoValue) sum.Add(expansion.values[part]);
+      if (expansion.values[part] == kCode93NoValue) continue;  // D-93-2
+      weightedForC.Add(expansion.values[part]);
+      weightedForK.Add(expansion.values[part]);
     }
   }
-}
-
-CheckValues ComputeCheckValues(const char* text) {
-  CyclicWeightedSum weightedForC(1, 20);
-  AddFromTheRight(text, weightedForC);
-  const int c = weightedForC.Modulo(kCode93CheckModulus);
-
-  CyclicWeightedSum weightedForK(1, 15);
-  weightedForK.Add(c);
-  AddFromTheRight(text, weightedForK);
-  return {c, weightedForK.Modulo(kCode93CheckModulus)};
+  sums.c = weightedForC.Modulo(kCode93CheckModulus);
+  sums.k = (weightedForK.Modulo(kCode93CheckModulus) + sums.c) % kCode93CheckModulus;
+  return sums;
 }
 
 void AppendText(const char* text, ModuleStringBuilder& builder) {
@@ -78,17 +72,17 @@ char* EncodeFullAscii(const char* text, QuietZone quietZone) {
 char* EncodeCode93(const char* text, Code93Input input, QuietZone quietZone) {
   if (input == Code93Input::kNativeSet && !IsInNativeSet(text)) return nullptr;
 
-  const CheckValues check = ComputeCheckValues(text);
+  const TextSums sums = SumFromTheRight(text);
   const int quietModules = QuietModules(quietZone);
   // Nine letters for each character of the text and for start, C, K and stop, the termination bar
   // and the quiet zones.
-  ModuleStringBuilder builder(kUsualCapacity, 9 * (CountCharacters(text) + 4) + 1 +
-                                                  2 * static_cast<std::size_t>(quietModules));
+  ModuleStringBuilder builder(
+      kUsualCapacity, 9 * (sums.characters + 4) + 1 + 2 * static_cast<std::size_t>(quietModules));
   builder.AppendSpace(quietModules);
   builder.AppendModules(Code93Modules(kCode93StartStop));
   AppendText(text, builder);
-  builder.AppendModules(Code93Modules(check.c));
-  builder.AppendModules(Code93Modules(check.k));
+  builder.AppendModules(Code93Modules(sums.c));
+  builder.AppendModules(Code93Modules(sums.k));
   builder.AppendModules(Code93Modules(kCode93StartStop));
   builder.AppendModules(kTerminationBar);
   builder.AppendSpace(quietModules);
