@@ -183,12 +183,9 @@ constexpr NumberSet SetOf(char parity) { return parity == '1' ? NumberSet::kG : 
 bool ValidateDigits(const EanUpcLayout& layout, const char* text) {
   // D-EAN-3: number system 1 as well as 0.
   if (layout.firstDigit == FirstDigit::kNumberSystem && !IsOneOf(*text, "01")) return false;
-  const int expected = layout.mainDigits + layout.addonDigits;
   int count = 0;
-  for (; *text != '\0'; ++text, ++count) {
-    if (count == expected || !IsDigit(*text)) return false;
-  }
-  return count == expected;
+  while (IsDigit(text[count])) ++count;
+  return text[count] == '\0' && count == layout.mainDigits + layout.addonDigits;
 }
 
 int CheckDigit(const char* digits, int count) {

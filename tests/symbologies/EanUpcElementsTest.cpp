@@ -6,6 +6,7 @@
 #endif
 
 #include <cstdint>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <random>
@@ -27,7 +28,7 @@ using test::Quiet;
 using test::ReadEanUpc;
 using test::Take;
 
-// The twelve types as hosts know them.
+// The twelve types as hosts know them, in the order of the layouts.
 struct EanUpcType {
   std::int32_t type;
   const char* symbol;
@@ -247,6 +248,17 @@ TEST_F(EanUpcFamily, AllFiveDigitParitiesAreReadBackBesideEverySymbol) {
       ASSERT_TRUE(reading) << type.type << " " << addon;
       EXPECT_EQ(reading->addon, addon);
     }
+  }
+}
+
+TEST(EanUpcLayouts, AnnounceTheLettersAndTheCapacityOfTheirTypes) {
+  ASSERT_EQ(std::size(kEanUpcLayouts), std::size(kTypes));
+  for (std::size_t i = 0; i < std::size(kTypes); ++i) {
+    const EanUpcLayout& layout = kEanUpcLayouts[i];
+    EXPECT_EQ(ModuleCount(layout, QuietZone::kNone), kTypes[i].modules) << kTypes[i].type;
+    EXPECT_EQ(ModuleCount(layout, QuietZone::kBothEnds), kTypes[i].modulesWithQuiet)
+        << kTypes[i].type;
+    EXPECT_EQ(layout.capacity, kTypes[i].capacity) << kTypes[i].type;
   }
 }
 
