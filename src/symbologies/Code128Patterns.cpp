@@ -181,9 +181,24 @@ static_assert(RowsAreInValueOrder(), "the value is the index of its row");
 static_assert(RowsHaveElevenModulesAndEvenBars(), "11 modules, an even number of them dark");
 static_assert(RowsAreDistinct(), "no two characters look alike");
 
-constexpr char kWidestBar[] = "1111";
-constexpr char kWidestSpace[] = "0000";
-constexpr int kWidestModules = 4;
+struct Code128Modules {
+  char digits[kCode128CharacterCount][kCode128CharacterModules + 1];
+};
+
+constexpr Code128Modules ExpandWidths() {
+  Code128Modules modules{};
+  for (int value = 0; value < kCode128CharacterCount; ++value) {
+    int module = 0;
+    for (int i = 0; i < 6; ++i) {
+      const int end = module + WidthAt(kCode128Characters[value], i);
+      while (module < end) modules.digits[value][module++] = i % 2 == 0 ? '1' : '0';
+    }
+  }
+  return modules;
+}
+constexpr Code128Modules kCode128Modules = ExpandWidths();
+
+constexpr char kTerminationBar[kCode128TerminationBarModules + 1] = "11";
 
 constexpr int kCheckModulus = 103;
 
@@ -195,16 +210,12 @@ const char* Code128Widths(int value) {
 
 void AppendCode128Character(ModuleStringBuilder& builder, int value) {
   assert(value >= 0 && value < kCode128CharacterCount);
-  const Code128Character& row = kCode128Characters[value];
-  for (int i = 0; i < 6; ++i) {
-    const char* widest = i % 2 == 0 ? kWidestBar : kWidestSpace;
-    builder.AppendModules(widest + kWidestModules - WidthAt(row, i));
-  }
+  builder.AppendModules(kCode128Modules.digits[value]);
 }
 
 void AppendCode128Stop(ModuleStringBuilder& builder) {
   AppendCode128Character(builder, kCode128Stop);
-  builder.AppendModules(kWidestBar + kWidestModules - kCode128TerminationBarModules);
+  builder.AppendModules(kTerminationBar);
 }
 
 std::uint8_t Code128CheckValue(const std::uint8_t* values, int count) {

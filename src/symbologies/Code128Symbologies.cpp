@@ -15,6 +15,10 @@ enum class CodeSet { kA, kB, kC };
 
 // What a Code 128 module string has always been allocated with.
 constexpr std::size_t kUsualCapacity = 40521;
+// The values and the stop, the termination bar and both quiet zones.
+constexpr std::size_t kMostLetters = kCode128CharacterModules * (kMaxCode128Values + 1) +
+                                     kCode128TerminationBarModules + 2 * kQuietZoneModules;
+static_assert(kMostLetters == 935 && kMostLetters < kUsualCapacity, "room for every symbol");
 
 constexpr char kFirstCharacter = ' ';
 constexpr int kShortestRunForSetC = 4;
@@ -169,9 +173,7 @@ char* EncodeCode128(const char* text, Code128Policy policy, QuietZone quietZone)
   if (!BuildCode128Values(text, policy, symbol)) return nullptr;
 
   const int quietModules = QuietModules(quietZone);
-  const int letters = kCode128CharacterModules * (symbol.count + 1) +
-                      kCode128TerminationBarModules + 2 * quietModules;
-  ModuleStringBuilder builder(kUsualCapacity, static_cast<std::size_t>(letters));
+  ModuleStringBuilder builder(kUsualCapacity, kMostLetters);
   builder.AppendSpace(quietModules);
   for (int i = 0; i < symbol.count; ++i) AppendCode128Character(builder, symbol.values[i]);
   AppendCode128Stop(builder);
