@@ -96,7 +96,7 @@ char* EncodeCodabar(const char* text, QuietZone quietZone) {
   builder.AppendSpace(quietModules);
   for (std::size_t i = 0; i < length; ++i) {
     if (i > 0) builder.AppendSpace(1);
-    builder.AppendElements(CodabarElements(text[i]));
+    builder.AppendElements<7>(CodabarElements(text[i]));
   }
   builder.AppendSpace(quietModules);
   return builder.Release();

@@ -210,7 +210,7 @@ const char* Code128Widths(int value) {
 
 void AppendCode128Character(ModuleStringBuilder& builder, int value) {
   assert(value >= 0 && value < kCode128CharacterCount);
-  builder.AppendModules(kCode128Modules.digits[value]);
+  builder.AppendModules<kCode128CharacterModules>(kCode128Modules.digits[value]);
 }
 
 void AppendCode128Stop(ModuleStringBuilder& builder) {

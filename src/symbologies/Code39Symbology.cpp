@@ -111,7 +111,7 @@ char* EncodeCode39(const char* text, QuietZone quietZone) {
   builder.AppendSpace(quietModules);
   for (std::size_t i = 0; i < length; ++i) {
     if (i > 0) builder.AppendSpace(1);
-    builder.AppendElements(Code39Elements(framed[i]));
+    builder.AppendElements<9>(Code39Elements(framed[i]));
   }
   builder.AppendSpace(quietModules);
   return builder.Release();

@@ -48,13 +48,13 @@ TextSums SumFromTheRight(const char* text) {
 }
 
 void AppendText(const char* text, ModuleStringBuilder& builder) {
-  const char* modules = "";  // D-93-3
+  const char* modules = nullptr;  // D-93-3
   for (; *text != '\0'; ++text) {
     const Code93Expansion& expansion = ExpandCode93(*text);
     for (int part = 0; part < expansion.count; ++part) {
       // D-93-2: without a value the modules stay those of the character before.
       if (expansion.values[part] != kCode93NoValue) modules = Code93Modules(expansion.values[part]);
-      builder.AppendModules(modules);
+      if (modules != nullptr) builder.AppendModules<9>(modules);
     }
   }
 }
@@ -79,11 +79,11 @@ char* EncodeCode93(const char* text, Code93Input input, QuietZone quietZone) {
   ModuleStringBuilder builder(
       kUsualCapacity, 9 * (sums.characters + 4) + 1 + 2 * static_cast<std::size_t>(quietModules));
   builder.AppendSpace(quietModules);
-  builder.AppendModules(Code93Modules(kCode93StartStop));
+  builder.AppendModules<9>(Code93Modules(kCode93StartStop));
   AppendText(text, builder);
-  builder.AppendModules(Code93Modules(sums.c));
-  builder.AppendModules(Code93Modules(sums.k));
-  builder.AppendModules(Code93Modules(kCode93StartStop));
+  builder.AppendModules<9>(Code93Modules(sums.c));
+  builder.AppendModules<9>(Code93Modules(sums.k));
+  builder.AppendModules<9>(Code93Modules(kCode93StartStop));
   builder.AppendModules(kTerminationBar);
   builder.AppendSpace(quietModules);
   return builder.Release();

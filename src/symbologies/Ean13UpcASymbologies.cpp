@@ -13,7 +13,7 @@ char* EncodeEan13UpcA(const EanUpcLayout& layout, const char* text, QuietZone qu
   if (!ValidateDigits(layout, text)) return nullptr;
 
   char working[kWorkingCapacity];
-  std::strcpy(working, text);
+  std::memcpy(working, text, std::strlen(text) + 1);
   if (layout.firstDigit == FirstDigit::kBehindZero) PrefixZero(working);
   InsertCheckDigit(layout, working);
 

@@ -8,7 +8,7 @@ char* EncodeEan8(const EanUpcLayout& layout, const char* text, QuietZone quietZo
   if (!ValidateDigits(layout, text)) return nullptr;
 
   char working[kWorkingCapacity];
-  std::strcpy(working, text);
+  std::memcpy(working, text, std::strlen(text) + 1);
   InsertCheckDigit(layout, working);
 
   ModuleStringBuilder builder(layout.capacity, ModuleCount(layout, quietZone));

@@ -227,11 +227,12 @@ const char* AddonParity(const char* addon, int count) {
 }
 
 void AppendDigits(ModuleStringBuilder& builder, const char* digits, const char* parity) {
-  for (; *parity != '\0'; ++parity) builder.AppendModules(EncodeDigit(*digits++, SetOf(*parity)));
+  for (; *parity != '\0'; ++parity)
+    builder.AppendModules<7>(EncodeDigit(*digits++, SetOf(*parity)));
 }
 
 void AppendDigits(ModuleStringBuilder& builder, const char* digits, int count, NumberSet set) {
-  for (int i = 0; i < count; ++i) builder.AppendModules(EncodeDigit(digits[i], set));
+  for (int i = 0; i < count; ++i) builder.AppendModules<7>(EncodeDigit(digits[i], set));
 }
 
 void AppendAddon(ModuleStringBuilder& builder, const char* addon, int count) {
@@ -241,7 +242,7 @@ void AppendAddon(ModuleStringBuilder& builder, const char* addon, int count) {
   builder.AppendModules(kAddonStartGuard);
   for (int i = 0; i < count; ++i) {
     if (i > 0) builder.AppendModules(kAddonSeparator);
-    builder.AppendModules(EncodeDigit(addon[i], SetOf(parity[i])));
+    builder.AppendModules<7>(EncodeDigit(addon[i], SetOf(parity[i])));
   }
 }
 

@@ -71,22 +71,11 @@ std::size_t CompleteDigits(const char* text, Interleaved2of5Check check, char* d
   const std::size_t checkDigits = check == Interleaved2of5Check::kAppended ? 1 : 0;
   std::size_t length = 0;
   if ((textLength + checkDigits) % 2 != 0) digits[length++] = '0';
-  std::memcpy(digits + length, text, textLength);
+  std::memcpy(digits + length, text, textLength);  // NOLINT(bugprone-not-null-terminated-result)
   length += textLength;
   if (checkDigits != 0) digits[length++] = Interleaved2of5CheckDigit(text);
   assert(length % 2 == 0);
   return length;
-}
-
-void AppendPair(ModuleStringBuilder& builder, char inBars, char inSpaces) {
-  const char* const bars = Interleaved2of5Elements(inBars);
-  const char* const spaces = Interleaved2of5Elements(inSpaces);
-  char elements[2 * kElementsOfDigit + 1] = {};
-  for (int i = 0; i < kElementsOfDigit; ++i) {
-    elements[2 * i] = bars[i];
-    elements[2 * i + 1] = spaces[i];
-  }
-  builder.AppendElements(elements);
 }
 
 }  // namespace
@@ -116,7 +105,10 @@ char* EncodeInterleaved2of5(const char* text, Interleaved2of5Check check, QuietZ
   ModuleStringBuilder builder(kUsualCapacity, letters);
   builder.AppendSpace(quietModules);
   builder.AppendElements(kStartElements);
-  for (std::size_t i = 0; i < length; i += 2) AppendPair(builder, digits[i], digits[i + 1]);
+  for (std::size_t i = 0; i < length; i += 2) {
+    builder.AppendInterleaved<kElementsOfDigit>(Interleaved2of5Elements(digits[i]),
+                                                Interleaved2of5Elements(digits[i + 1]));
+  }
   builder.AppendElements(kStopElements);
   builder.AppendSpace(quietModules);
   return builder.Release();

@@ -1,9 +1,8 @@
 #include "symbologies/ModuleStringBuilder.h"
 
 #include <cassert>
+#include <cstring>
 #include <new>
-
-#include "symbologies/ModuleString.h"
 
 namespace barhatch {
 
@@ -21,37 +20,9 @@ ModuleStringBuilder::ModuleStringBuilder(std::size_t usualCapacity, std::size_t 
 
 ModuleStringBuilder::~ModuleStringBuilder() { delete[] letters_; }
 
-void ModuleStringBuilder::Append(char letter) {
-  if (letters_ == nullptr || length_ + 1 >= capacity_) {
-    overflowed_ = true;
-    return;
-  }
-  letters_[length_++] = letter;
-}
-
-void ModuleStringBuilder::AppendElement(Shade shade, ElementWidth width) {
-  const bool wide = width == ElementWidth::kWide;
-  if (shade == Shade::kDark) {
-    Append(wide ? kWideBar : kNarrowBar);
-  } else {
-    Append(wide ? kWideSpace : kNarrowSpace);
-  }
-}
-
-void ModuleStringBuilder::AppendElements(const char* elements) {
-  Shade shade = Shade::kDark;
-  for (; *elements != '\0'; ++elements) {
-    AppendElement(shade, *elements == '1' ? ElementWidth::kWide : ElementWidth::kNarrow);
-    shade = shade == Shade::kDark ? Shade::kLight : Shade::kDark;
-  }
-}
-
-void ModuleStringBuilder::AppendModules(const char* modules) {
-  for (; *modules != '\0'; ++modules) Append(*modules == '1' ? kNarrowBar : kNarrowSpace);
-}
-
 void ModuleStringBuilder::AppendSpace(int modules) {
-  for (int i = 0; i < modules; ++i) Append(kNarrowSpace);
+  const std::size_t letters = static_cast<std::size_t>(modules);
+  if (char* room = RoomFor(letters)) std::memset(room, kNarrowSpace, letters);
 }
 
 char* ModuleStringBuilder::Release() {

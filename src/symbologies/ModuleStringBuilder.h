@@ -5,10 +5,10 @@
 
 #include <cstddef>
 
+#include "symbologies/ModuleString.h"
+
 namespace barhatch {
 
-enum class Shade { kDark, kLight };
-enum class ElementWidth { kNarrow, kWide };
 enum class QuietZone { kNone, kBothEnds };
 
 // Light modules at each end of most symbologies; the EAN/UPC family has widths of its own.
@@ -29,14 +29,46 @@ class ModuleStringBuilder {
   ModuleStringBuilder(const ModuleStringBuilder&) = delete;
   ModuleStringBuilder& operator=(const ModuleStringBuilder&) = delete;
 
-  void AppendElement(Shade shade, ElementWidth width);
-
   // Wide and narrow elements as digits, bar first, then space, bar, ...: "0110" is a narrow bar, a
-  // wide space, a wide bar and a narrow space.
-  void AppendElements(const char* elements);
+  // wide space, a wide bar and a narrow space. The count is a constant so that the digits are
+  // turned into letters without a loop over single ones.
+  template <std::size_t kCount>
+  void AppendElements(const char* elements) {
+    if (char* room = RoomFor(kCount)) {
+      for (std::size_t i = 0; i < kCount; ++i)
+        room[i] = ElementLetter(elements[i], static_cast<int>(i));
+    }
+  }
 
   // Single modules as digits: '1' dark, '0' light.
-  void AppendModules(const char* modules);
+  template <std::size_t kCount>
+  void AppendModules(const char* modules) {
+    if (char* room = RoomFor(kCount)) {
+      for (std::size_t i = 0; i < kCount; ++i) room[i] = ModuleLetter(modules[i]);
+    }
+  }
+
+  // The same for a whole literal.
+  template <std::size_t kSize>
+  void AppendElements(const char (&elements)[kSize]) {
+    AppendElements<kSize - 1>(&elements[0]);
+  }
+  template <std::size_t kSize>
+  void AppendModules(const char (&modules)[kSize]) {
+    AppendModules<kSize - 1>(&modules[0]);
+  }
+
+  // Bars and spaces that alternate, as digits of their own: "00" and "11" are a narrow bar, a wide
+  // space, a narrow bar and a wide space.
+  template <std::size_t kPairs>
+  void AppendInterleaved(const char* bars, const char* spaces) {
+    if (char* room = RoomFor(2 * kPairs)) {
+      for (std::size_t i = 0; i < kPairs; ++i) {
+        room[2 * i] = ElementLetter(bars[i], 0);
+        room[2 * i + 1] = ElementLetter(spaces[i], 1);
+      }
+    }
+  }
 
   // Narrow light elements: a quiet zone, or the gap between characters.
   void AppendSpace(int modules);
@@ -46,7 +78,16 @@ class ModuleStringBuilder {
   char* Release();
 
  private:
-  void Append(char letter);
+  // Where the next letters go; null when there is no memory or more letters come than announced.
+  char* RoomFor(std::size_t letters) {
+    if (letters_ == nullptr || capacity_ - 1 - length_ < letters) {
+      overflowed_ = true;
+      return nullptr;
+    }
+    char* const room = letters_ + length_;
+    length_ += letters;
+    return room;
+  }
 
   std::size_t capacity_;
   std::size_t length_ = 0;

@@ -17,13 +17,18 @@ TEST(ModuleStringBuilder, WritesBarsAndSpacesInTurn) {
   EXPECT_EQ(Take(builder.Release()), "AbBaaAa");
 }
 
-TEST(ModuleStringBuilder, AppendsSingleElementsOfEitherShade) {
-  ModuleStringBuilder builder(100, 4);
-  builder.AppendElement(Shade::kDark, ElementWidth::kWide);
-  builder.AppendElement(Shade::kLight, ElementWidth::kNarrow);
-  builder.AppendElement(Shade::kDark, ElementWidth::kNarrow);
-  builder.AppendElement(Shade::kLight, ElementWidth::kWide);
-  EXPECT_EQ(Take(builder.Release()), "BaAb");
+TEST(ModuleStringBuilder, TakesACountedPartOfLongerDigits) {
+  ModuleStringBuilder builder(100, 5);
+  const char* digits = "1101";
+  builder.AppendElements<3>(digits);
+  builder.AppendModules<2>(digits + 1);
+  EXPECT_EQ(Take(builder.Release()), "BbAAa");
+}
+
+TEST(ModuleStringBuilder, InterleavesBarsAndSpaces) {
+  ModuleStringBuilder builder(100, 6);
+  builder.AppendInterleaved<3>("010", "110");
+  EXPECT_EQ(Take(builder.Release()), "AbBbAa");
 }
 
 TEST(ModuleStringBuilder, HasRoomForWhatWasAnnouncedWhereTheUsualCapacityIsTooSmall) {
