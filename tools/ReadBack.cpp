@@ -14,7 +14,8 @@ bool CanReadBack() { return true; }
 std::optional<Reading> ReadBack(const Picture& picture) {
   const ZXing::ImageView view(picture.pixels.data(), static_cast<int>(picture.width),
                               static_cast<int>(picture.height), ZXing::ImageFormat::Lum);
-  const ZXing::DecodeHints hints;
+  ZXing::DecodeHints hints;
+  hints.setEanAddOnSymbol(ZXing::EanAddOnSymbol::Read);
   const ZXing::Result result = ZXing::ReadBarcode(view, hints);
   if (!result.isValid()) return std::nullopt;
   return Reading{"zxing-cpp", ZXing::ToString(result.format()), result.text()};
