@@ -44,7 +44,7 @@ struct MarkingCase {
   std::string alphabet;
   std::size_t shortest;
   std::size_t longest;
-  Symbology symbology;
+  Format symbology;
   std::vector<Reader> readers;
   std::function<Expectation(const std::string& text, const MarkedSymbol& symbol)> expected;
 };
@@ -94,27 +94,27 @@ const std::vector<Reader> kZxingAlone = {Reader::kZxing};
 
 std::vector<MarkingCase> Cases() {
   return {
-      {1, kDigits + "ABCD-. $+%", 1, 14, Symbology::kCode39, kBoth, WithPercentPairsCollapsed},
-      {2, kDigits + kUpper + "-. $/+%", 1, 16, Symbology::kCode93, kBoth, AsGiven},
-      {22, EveryAsciiByte(), 1, 12, Symbology::kCode93, kBoth, AsGiven},
-      {3, kDigits, 12, 12, Symbology::kEan13, kBoth, MainAndAddOn(12)},
-      {15, kDigits, 14, 14, Symbology::kEan13, kBoth, MainAndAddOn(12)},
-      {16, kDigits, 17, 17, Symbology::kEan13, kBoth, MainAndAddOn(12)},
-      {9, kDigits, 11, 11, Symbology::kUpcA, kBoth, MainAndAddOn(11)},
-      {13, kDigits, 13, 13, Symbology::kUpcA, kBoth, MainAndAddOn(11)},
-      {14, kDigits, 16, 16, Symbology::kUpcA, kBoth, MainAndAddOn(11)},
-      {12, kDigits, 7, 7, Symbology::kEan8, kBoth, MainAndAddOn(7)},
-      {17, kDigits, 9, 9, Symbology::kEan8, kBoth, MainAndAddOn(7)},
-      {18, kDigits, 12, 12, Symbology::kEan8, kBoth, MainAndAddOn(7)},
-      {10, kDigits, 7, 7, Symbology::kUpcE, kZxingAlone, OfUpcE},
-      {19, kDigits, 9, 9, Symbology::kUpcE, kZxingAlone, OfUpcE},
-      {20, kDigits, 12, 12, Symbology::kUpcE, kZxingAlone, OfUpcE},
-      {5, PrintableAscii(), 2, 24, Symbology::kCode128, kBoth, AsAStandardReaderSees},
-      {5, kDigits + "A", 2, 24, Symbology::kCode128, kBoth, AsAStandardReaderSees},
-      {6, PrintableAscii(), 2, 24, Symbology::kCode128, kBoth, AsGiven},
-      {7, PrintableAscii(), 2, 24, Symbology::kCode128, kBoth, AsGiven},
-      {8, kDigits + "Aa", 2, 24, Symbology::kCode128, kBoth, AsGiven},
-      {21, kDigits, 6, 20, Symbology::kInterleaved2of5, kBoth, WithLeadingZeroIfOdd},
+      {1, kDigits + "ABCD-. $+%", 1, 14, Format::kCode39, kBoth, WithPercentPairsCollapsed},
+      {2, kDigits + kUpper + "-. $/+%", 1, 16, Format::kCode93, kBoth, AsGiven},
+      {22, EveryAsciiByte(), 1, 12, Format::kCode93, kBoth, AsGiven},
+      {3, kDigits, 12, 12, Format::kEan13, kBoth, MainAndAddOn(12)},
+      {15, kDigits, 14, 14, Format::kEan13, kBoth, MainAndAddOn(12)},
+      {16, kDigits, 17, 17, Format::kEan13, kBoth, MainAndAddOn(12)},
+      {9, kDigits, 11, 11, Format::kUpcA, kBoth, MainAndAddOn(11)},
+      {13, kDigits, 13, 13, Format::kUpcA, kBoth, MainAndAddOn(11)},
+      {14, kDigits, 16, 16, Format::kUpcA, kBoth, MainAndAddOn(11)},
+      {12, kDigits, 7, 7, Format::kEan8, kBoth, MainAndAddOn(7)},
+      {17, kDigits, 9, 9, Format::kEan8, kBoth, MainAndAddOn(7)},
+      {18, kDigits, 12, 12, Format::kEan8, kBoth, MainAndAddOn(7)},
+      {10, kDigits, 7, 7, Format::kUpcE, kZxingAlone, OfUpcE},
+      {19, kDigits, 9, 9, Format::kUpcE, kZxingAlone, OfUpcE},
+      {20, kDigits, 12, 12, Format::kUpcE, kZxingAlone, OfUpcE},
+      {5, PrintableAscii(), 2, 24, Format::kCode128, kBoth, AsAStandardReaderSees},
+      {5, kDigits + "A", 2, 24, Format::kCode128, kBoth, AsAStandardReaderSees},
+      {6, PrintableAscii(), 2, 24, Format::kCode128, kBoth, AsGiven},
+      {7, PrintableAscii(), 2, 24, Format::kCode128, kBoth, AsGiven},
+      {8, kDigits + "Aa", 2, 24, Format::kCode128, kBoth, AsGiven},
+      {21, kDigits, 6, 20, Format::kInterleaved2of5, kBoth, WithLeadingZeroIfOdd},
   };
 }
 
@@ -124,7 +124,7 @@ constexpr int kTextsPerPatternAndImage = 12;
 // A text of the case's kind; UPC-E begins with its number system.
 std::string NextText(SeededTexts& texts, const MarkingCase& c) {
   std::string text = texts.Next(c.alphabet, c.shortest, c.longest);
-  if (c.symbology == Symbology::kUpcE) text[0] = text[0] < '5' ? '0' : '1';
+  if (c.symbology == Format::kUpcE) text[0] = text[0] < '5' ? '0' : '1';
   return text;
 }
 
@@ -177,7 +177,7 @@ TEST(LinearMarkingOfCodabar, EveryPatternPlainAndInvertedIsRead) {
       for (int i = 0; i < kTextsPerPatternAndImage; ++i) {
         const std::string text = texts.Next("ABCD", 1, 1) + texts.Next(kDigits + "-$:/.+", 3, 16) +
                                  texts.Next("ABCD", 1, 1);
-        ExpectRead({0, "", 0, 0, Symbology::kCodabar, kBoth, AsGiven}, {0, text, pattern, image});
+        ExpectRead({0, "", 0, 0, Format::kCodabar, kBoth, AsGiven}, {0, text, pattern, image});
       }
     }
   }
@@ -217,12 +217,12 @@ TEST(LinearMarkingOfCode39, TextsThatADeviationTouchesAreReadAsPredicted) {
   for (char letter = 'E'; letter <= 'Z'; ++letter) {
     const MarkedSymbol symbol = MarkSymbol({1, std::string("AB") + letter, 0, Image::kPlain});
     ASSERT_FALSE(symbol.refused);
-    EXPECT_FALSE(Read(Reader::kZxing, symbol.picture, Symbology::kCode39)) << letter;
-    EXPECT_FALSE(Read(Reader::kZbar, symbol.picture, Symbology::kCode39)) << letter;
+    EXPECT_FALSE(Read(Reader::kZxing, symbol.picture, Format::kCode39)) << letter;
+    EXPECT_FALSE(Read(Reader::kZbar, symbol.picture, Format::kCode39)) << letter;
   }
   const MarkedSymbol slash = MarkSymbol({1, "A/B", 0, Image::kPlain});
-  EXPECT_EQ(Read(Reader::kZxing, slash.picture, Symbology::kCode39)->text, "A%B");
-  EXPECT_EQ(Read(Reader::kZbar, slash.picture, Symbology::kCode39)->text, "A%B");
+  EXPECT_EQ(Read(Reader::kZxing, slash.picture, Format::kCode39)->text, "A%B");
+  EXPECT_EQ(Read(Reader::kZbar, slash.picture, Format::kCode39)->text, "A%B");
 }
 
 }  // namespace

@@ -63,7 +63,7 @@ std::string Modules39(const std::string& text, QuietZone quietZone) {
 void ExpectRead(const Raster& picture, const std::string& text) {
   for (const Reader reader : {Reader::kZxing, Reader::kZbar}) {
     if (!HasReader(reader)) continue;
-    const auto result = Read(reader, picture, Symbology::kCode39);
+    const auto result = Read(reader, picture, Format::kCode39);
     ASSERT_TRUE(result) << text;
     EXPECT_EQ(result->text, text);
   }
@@ -85,14 +85,14 @@ TEST(MarkedCode39, IsReadFromLightMarksOnADarkPart) {
 TEST(MarkedCode39, IsLostWhenTheLightElementsAreMarkedDark) {
   Raster picture = Picture(Modules39("ABC-123", QuietZone::kBothEnds), "ab", 3);
   picture.Invert();
-  EXPECT_FALSE(Read(Reader::kZxing, picture, Symbology::kCode39));
-  EXPECT_FALSE(Read(Reader::kZbar, picture, Symbology::kCode39));
+  EXPECT_FALSE(Read(Reader::kZxing, picture, Format::kCode39));
+  EXPECT_FALSE(Read(Reader::kZbar, picture, Format::kCode39));
 }
 
 TEST(MarkedCode39, IsLostInADarkPartWithoutAQuietZone) {
   const Raster picture = Picture(Modules39("ABC-123", QuietZone::kNone), "ab", 3);
-  EXPECT_FALSE(Read(Reader::kZxing, picture, Symbology::kCode39));
-  EXPECT_FALSE(Read(Reader::kZbar, picture, Symbology::kCode39));
+  EXPECT_FALSE(Read(Reader::kZxing, picture, Format::kCode39));
+  EXPECT_FALSE(Read(Reader::kZbar, picture, Format::kCode39));
 }
 
 }  // namespace

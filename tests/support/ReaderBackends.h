@@ -8,8 +8,8 @@
 
 namespace barhatch::test {
 
-std::optional<ReadResult> ReadWithZxing(const Raster& picture, Symbology symbology, AddOn addOn);
-std::optional<ReadResult> ReadWithZbar(const Raster& picture, Symbology symbology, AddOn addOn);
+std::optional<ReadResult> ReadWithZxing(const Raster& picture, Format format, AddOn addOn);
+std::optional<ReadResult> ReadWithZbar(const Raster& picture, Format format, AddOn addOn);
 std::optional<ReadResult> ReadWithDmtx(const Raster& picture);
 
 }  // namespace barhatch::test

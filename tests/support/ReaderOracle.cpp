@@ -5,10 +5,10 @@
 namespace barhatch::test {
 
 #if !BARHATCH_WITH_ZXING
-std::optional<ReadResult> ReadWithZxing(const Raster&, Symbology, AddOn) { return std::nullopt; }
+std::optional<ReadResult> ReadWithZxing(const Raster&, Format, AddOn) { return std::nullopt; }
 #endif
 #if !BARHATCH_WITH_ZBAR
-std::optional<ReadResult> ReadWithZbar(const Raster&, Symbology, AddOn) { return std::nullopt; }
+std::optional<ReadResult> ReadWithZbar(const Raster&, Format, AddOn) { return std::nullopt; }
 #endif
 #if !BARHATCH_WITH_DMTX
 std::optional<ReadResult> ReadWithDmtx(const Raster&) { return std::nullopt; }
@@ -26,15 +26,14 @@ bool HasReader(Reader reader) {
   return false;
 }
 
-std::optional<ReadResult> Read(Reader reader, const Raster& picture, Symbology symbology,
-                               AddOn addOn) {
+std::optional<ReadResult> Read(Reader reader, const Raster& picture, Format format, AddOn addOn) {
   switch (reader) {
     case Reader::kZxing:
-      return ReadWithZxing(picture, symbology, addOn);
+      return ReadWithZxing(picture, format, addOn);
     case Reader::kZbar:
-      return ReadWithZbar(picture, symbology, addOn);
+      return ReadWithZbar(picture, format, addOn);
     case Reader::kDmtx:
-      return symbology == Symbology::kDataMatrix ? ReadWithDmtx(picture) : std::nullopt;
+      return format == Format::kDataMatrix ? ReadWithDmtx(picture) : std::nullopt;
   }
   return std::nullopt;
 }

@@ -10,27 +10,27 @@ namespace {
 
 constexpr unsigned long kGreyFormat = 0x30303859;  // "Y800", one byte a pixel
 
-zbar::zbar_symbol_type_t Type(Symbology symbology) {
-  switch (symbology) {
-    case Symbology::kCodabar:
+zbar::zbar_symbol_type_t Type(Format format) {
+  switch (format) {
+    case Format::kCodabar:
       return zbar::ZBAR_CODABAR;
-    case Symbology::kCode39:
+    case Format::kCode39:
       return zbar::ZBAR_CODE39;
-    case Symbology::kCode93:
+    case Format::kCode93:
       return zbar::ZBAR_CODE93;
-    case Symbology::kCode128:
+    case Format::kCode128:
       return zbar::ZBAR_CODE128;
-    case Symbology::kEan13:
+    case Format::kEan13:
       return zbar::ZBAR_EAN13;
-    case Symbology::kEan8:
+    case Format::kEan8:
       return zbar::ZBAR_EAN8;
-    case Symbology::kUpcA:
+    case Format::kUpcA:
       return zbar::ZBAR_UPCA;
-    case Symbology::kUpcE:
+    case Format::kUpcE:
       return zbar::ZBAR_UPCE;
-    case Symbology::kInterleaved2of5:
+    case Format::kInterleaved2of5:
       return zbar::ZBAR_I25;
-    case Symbology::kDataMatrix:
+    case Format::kDataMatrix:
       break;
   }
   return zbar::ZBAR_NONE;
@@ -83,8 +83,8 @@ bool IsUpright(const zbar::zbar_symbol_t* symbol) {
 }  // namespace
 
 // An add-on is reported as a symbol of its own.
-std::optional<ReadResult> ReadWithZbar(const Raster& picture, Symbology symbology, AddOn addOn) {
-  const zbar::zbar_symbol_type_t type = Type(symbology);
+std::optional<ReadResult> ReadWithZbar(const Raster& picture, Format format, AddOn addOn) {
+  const zbar::zbar_symbol_type_t type = Type(format);
   if (type == zbar::ZBAR_NONE) return std::nullopt;
   const Scanner scanner = NewScanner(type, addOn);
   const Image image = NewImage(picture);

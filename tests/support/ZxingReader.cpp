@@ -7,27 +7,27 @@ namespace barhatch::test {
 
 namespace {
 
-ZXing::BarcodeFormat Format(Symbology symbology) {
-  switch (symbology) {
-    case Symbology::kCodabar:
+ZXing::BarcodeFormat ZxingFormat(Format format) {
+  switch (format) {
+    case Format::kCodabar:
       return ZXing::BarcodeFormat::Codabar;
-    case Symbology::kCode39:
+    case Format::kCode39:
       return ZXing::BarcodeFormat::Code39;
-    case Symbology::kCode93:
+    case Format::kCode93:
       return ZXing::BarcodeFormat::Code93;
-    case Symbology::kCode128:
+    case Format::kCode128:
       return ZXing::BarcodeFormat::Code128;
-    case Symbology::kEan13:
+    case Format::kEan13:
       return ZXing::BarcodeFormat::EAN13;
-    case Symbology::kEan8:
+    case Format::kEan8:
       return ZXing::BarcodeFormat::EAN8;
-    case Symbology::kUpcA:
+    case Format::kUpcA:
       return ZXing::BarcodeFormat::UPCA;
-    case Symbology::kUpcE:
+    case Format::kUpcE:
       return ZXing::BarcodeFormat::UPCE;
-    case Symbology::kInterleaved2of5:
+    case Format::kInterleaved2of5:
       return ZXing::BarcodeFormat::ITF;
-    case Symbology::kDataMatrix:
+    case Format::kDataMatrix:
       return ZXing::BarcodeFormat::DataMatrix;
   }
   return ZXing::BarcodeFormat::None;
@@ -35,9 +35,9 @@ ZXing::BarcodeFormat Format(Symbology symbology) {
 
 // The picture has two shades, so nothing is gained by adapting to it: the threshold is fixed and
 // rotation, scaling down and the shortcuts for computer-made pictures are off.
-ZXing::DecodeHints Hints(Symbology symbology, AddOn addOn) {
+ZXing::DecodeHints Hints(Format format, AddOn addOn) {
   return ZXing::DecodeHints()
-      .setFormats(Format(symbology))
+      .setFormats(ZxingFormat(format))
       .setBinarizer(ZXing::Binarizer::FixedThreshold)
       .setTryHarder(true)
       .setTryRotate(false)
@@ -50,10 +50,10 @@ ZXing::DecodeHints Hints(Symbology symbology, AddOn addOn) {
 
 }  // namespace
 
-std::optional<ReadResult> ReadWithZxing(const Raster& picture, Symbology symbology, AddOn addOn) {
+std::optional<ReadResult> ReadWithZxing(const Raster& picture, Format format, AddOn addOn) {
   const ZXing::Result found = ZXing::ReadBarcode(
       {picture.Pixels(), picture.Width(), picture.Height(), ZXing::ImageFormat::Lum},
-      Hints(symbology, addOn));
+      Hints(format, addOn));
   if (!found.isValid() || found.orientation() != 0 || found.isMirrored()) return std::nullopt;
 
   ReadResult result;

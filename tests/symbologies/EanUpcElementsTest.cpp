@@ -107,6 +107,17 @@ TEST_F(EanUpcFamily, OnlyTheExactLengthIsAccepted) {
   }
 }
 
+TEST_F(EanUpcFamily, AnyByteBehindTheRightDigitsIsRefused) {
+  for (const EanUpcType& type : kTypes) {
+    for (int byte = 1; byte < 256; ++byte) {
+      EXPECT_FALSE(Encode(type, SampleText(type) + static_cast<char>(byte)))
+          << type.type << " " << byte;
+    }
+    EXPECT_FALSE(Encode(type, " " + SampleText(type))) << type.type;
+    EXPECT_FALSE(Encode(type, SampleText(type) + "\n1")) << type.type;
+  }
+}
+
 TEST_F(EanUpcFamily, AnyByteButADigitIsRefusedAtEveryPlace) {
   for (const EanUpcType& type : kTypes) {
     for (std::size_t place = 0; place < type.InputDigits(); ++place) {
