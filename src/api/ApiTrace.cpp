@@ -86,7 +86,7 @@ class Statements {
     if (text == nullptr) {
       Write(kNullText);
     } else if constexpr (sizeof(wchar_t) == sizeof(BarhatchChar)) {
-      std::fprintf(stream_, "%ls", reinterpret_cast<const wchar_t*>(text));
+      std::fprintf(stream_, "%ls", static_cast<const wchar_t*>(static_cast<const void*>(text)));
     } else {
       for (; *text != 0; ++text) Write(ToUtf8(CodePointAt(text)).bytes);
     }

@@ -51,7 +51,7 @@ TEST(CoordinateList, CapacityOfNothingStillGrows) {
 }
 
 TEST(CoordinateList, TooLargeAListFailsAndLosesNothingElse) {
-  CoordinateList list(static_cast<std::size_t>(-1) / 16);
+  CoordinateList list(static_cast<std::size_t>(-1) / 8);
   EXPECT_TRUE(list.HasFailed());
   list.AppendSegment(1, 2, 3, 4);
   EXPECT_TRUE(list.HasFailed());

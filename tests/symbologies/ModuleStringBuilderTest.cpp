@@ -50,7 +50,7 @@ TEST(ModuleStringBuilder, IsEmptyOnceReleased) {
 }
 
 TEST(ModuleStringBuilder, WithoutMemoryNothingIsReleased) {
-  ModuleStringBuilder builder(static_cast<std::size_t>(-1) / 4, 1);
+  ModuleStringBuilder builder(static_cast<std::size_t>(-1) / 2, 1);
   builder.AppendModules("1");
   EXPECT_FALSE(Take(builder.Release()));
 }
