@@ -5,6 +5,7 @@
 #define BARHATCH_HATCH_GROWABLEARRAY_H
 
 #include <cstddef>
+#include <cstdint>
 #include <new>
 
 namespace barhatch {
@@ -15,7 +16,7 @@ class GrowableArray {
   static constexpr std::size_t kInitialCapacity = 16;
 
   explicit GrowableArray(std::size_t capacity = kInitialCapacity)
-      : items_(new (std::nothrow) T[capacity]),
+      : items_(NewArray(capacity)),
         capacity_(items_ != nullptr ? capacity : 0),
         failed_(items_ == nullptr) {}
   ~GrowableArray() { delete[] items_; }
@@ -61,9 +62,16 @@ class GrowableArray {
   }
 
  private:
+  // Null when there is no memory. The form that does not throw still ends the program where the size
+  // in bytes overflows, which on a 32-bit machine a fill of many strokes gets near to.
+  static T* NewArray(std::size_t capacity) {
+    if (capacity > static_cast<std::size_t>(PTRDIFF_MAX) / sizeof(T)) return nullptr;
+    return new (std::nothrow) T[capacity];
+  }
+
   bool Grow() {
     const std::size_t grownCapacity = capacity_ == 0 ? kInitialCapacity : 2 * capacity_;
-    T* grown = failed_ ? nullptr : new (std::nothrow) T[grownCapacity];
+    T* grown = failed_ ? nullptr : NewArray(grownCapacity);
     if (grown == nullptr) {
       failed_ = true;
       return false;
