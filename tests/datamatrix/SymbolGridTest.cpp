@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "support/AllocationGate.h"
+#include "support/AllocationProbe.h"
 #include "support/GridText.h"
 #include "support/OwnedGrid.h"
 #include "support/SymbolSizeReference.h"
@@ -129,10 +129,10 @@ TEST(SymbolGrid, NoMemoryIsNull) {
   const ReferenceSize size = Size(10, 10);
   const std::string mapping = Mixed(size);
   for (int failing : {0, 1}) {
-    const test::AllocationGate gate(failing);
+    const test::AllocationProbe probe(static_cast<std::size_t>(failing + 1));
     EXPECT_TRUE(OwnedGrid(NewGrid(SizeOf(size), QuietBorder::kNone, mapping.data())).IsNull());
   }
-  const test::AllocationGate gate(0);
+  const test::AllocationProbe probe(1);
   EXPECT_TRUE(OwnedGrid(NewRefusedGrid()).IsNull());
 }
 
