@@ -190,6 +190,21 @@ BARHATCH_API void FreeBarcodeData(FillBufferInfo* fill);
  * Reads: -   Writes: -   Returns: a fill buffer, released by FreeBarcodeData   Fails: null when there is no memory */
 BARHATCH_API FillBufferInfo* TestStruct(void);
 
+/* GenerateDataMatrixBarcode: copies a record into the settings, where its values stay in force, and generates an ECC 200
+ * Data Matrix. Its size follows from the height alone; width, type and PrintRatio play no part and keep their values.
+ * Units above 255 in the text are ECI designators.
+ * Reads: the record   Writes: the settings named like its fields, FillHeight, FillWidth
+ * Returns: a fill buffer, released by FreeBarcodeData
+ * Fails: null for a null record, null text or more than 3116 units (the settings stay as they were); for text or a size
+ *        that makes no symbol, a fill without strokes, no memory (the settings are in force) */
+BARHATCH_API FillBufferInfo* GenerateDataMatrixBarcode(const DataMatrixBarcodeInfo* info);
+
+/* Free2DBarcodeStringResult, FreePdf417BarcodeStringResult: release a grid and its data. Null is allowed. The two differ
+ * in their trace alone; no PDF417 is ever produced.
+ * Reads: -   Writes: -   Returns: -   Fails: never   Frees: the record (new) and data (new[]) */
+BARHATCH_API void Free2DBarcodeStringResult(TwoDStringResult* grid);
+BARHATCH_API void FreePdf417BarcodeStringResult(TwoDStringResult* grid);
+
 #ifdef __cplusplus
 } /* extern "C" */
 

@@ -12,9 +12,34 @@ void ReleaseModuleString(const char* moduleString) { delete[] moduleString; }
 
 }  // namespace barhatch
 
-extern "C" void FreeBarcodeData(FillBufferInfo* fill) {
+namespace {
+
+void ReleaseGrid(TwoDStringResult* grid) {
+  delete[] grid->data;
+  delete grid;
+}
+
+}  // namespace
+
+extern "C" {
+
+void FreeBarcodeData(FillBufferInfo* fill) {
   if (fill == nullptr) return;
   barhatch::TraceFreeBarcodeData(fill);
   delete[] fill->FilledArray;
   delete fill;
 }
+
+void Free2DBarcodeStringResult(TwoDStringResult* grid) {
+  if (grid == nullptr) return;
+  barhatch::TraceFree2DBarcodeStringResult(grid);
+  ReleaseGrid(grid);
+}
+
+void FreePdf417BarcodeStringResult(TwoDStringResult* grid) {
+  if (grid == nullptr) return;
+  barhatch::TraceFreePdf417BarcodeStringResult(grid);
+  ReleaseGrid(grid);
+}
+
+}  // extern "C"

@@ -1,11 +1,14 @@
 // What the library gives away and how it comes back. Every array is released in the form it was
-// allocated in.
+// allocated in; nothing else in the library allocates for the host.
 //
-//   given to the host           allocated in                        as released by module string
-//   symbologies/ModuleStringBuilder     new char[]              ReleaseModuleString, or the host's
-//   delete[] FillBufferInfo              hatch/FillBuffer, NewFillBuffer     new FillBufferInfo
-//   FreeBarcodeData its FilledArray             hatch/GrowableArray                 new double[]
-//   FreeBarcodeData
+//   given to the host   allocated in                     as                    released by
+//   -----------------   ------------------------------   -------------------   --------------------
+//   module string       ModuleStringBuilder              new char[]            the host's delete[]
+//   FillBufferInfo      FillBuffer, NewFillBuffer        new FillBufferInfo    FreeBarcodeData
+//   its FilledArray     GrowableArray                    new double[]          FreeBarcodeData
+//
+// Inside, a TwoDStringResult (SymbolGrid: new, its data new[]) goes to Free2DBarcodeStringResult
+// and a module string that no host sees to ReleaseModuleString.
 #ifndef BARHATCH_API_OWNERSHIP_H
 #define BARHATCH_API_OWNERSHIP_H
 

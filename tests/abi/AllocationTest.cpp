@@ -82,6 +82,16 @@ class Allocation : public testing::Test {
   }
   ~Allocation() override { InitBarcode(); }
 
+  DataMatrixBarcodeInfo MatrixRecord(int pattern) const {
+    DataMatrixBarcodeInfo info{};
+    info.height = 1.0;
+    info.DataString = text_.c_str();
+    info.HatchingType = pattern;
+    info.LineGap = 0.02;
+    info.IsExpanding = 1;
+    return info;
+  }
+
   Text16 text_;
 };
 
@@ -112,6 +122,28 @@ TEST_F(Allocation, FailuresOfGenerateLinearBarcodeAreNull) {
   ExpectRobust([&](Outcome& outcome) { return TakeFill(GenerateLinearBarcode(&info), outcome); });
 }
 
+TEST_F(Allocation, FailuresOfGenerateDataMatrixBarcodeAreNullInEveryPattern) {
+  for (int pattern : {0, 1, 2, 3, 5, 6}) {
+    const DataMatrixBarcodeInfo info = MatrixRecord(pattern);
+    ExpectRobust(
+        [&](Outcome& outcome) { return TakeFill(GenerateDataMatrixBarcode(&info), outcome); });
+  }
+}
+
+TEST_F(Allocation, ADataMatrixTakesFourAllocationsForItsResultAndAtMostThreeMore) {
+  for (int length : {1, 50, 1500}) {
+    const Text16 text = Widen(std::string(static_cast<std::size_t>(length), 'a'));
+    DataMatrixBarcodeInfo info = MatrixRecord(0);
+    info.DataString = text.c_str();
+    AllocationProbe probe;
+    FillBufferInfo* fill = GenerateDataMatrixBarcode(&info);
+    EXPECT_NE(fill, nullptr);
+    EXPECT_LE(probe.Allocations(), 4u + 3u);
+    FreeBarcodeData(fill);
+    EXPECT_EQ(probe.LiveBlocks(), 0u);
+  }
+}
+
 TEST_F(Allocation, FailuresOfTestStructAreNull) {
   ExpectRobust([](Outcome& outcome) { return TakeFill(TestStruct(), outcome); });
 }
@@ -125,6 +157,10 @@ TEST_F(Allocation, RefusedCallsAllocateNothingThatStays) {
   EXPECT_EQ(HatchBarcodeString(""), nullptr);
   EXPECT_EQ(HatchBarcodeString(nullptr), nullptr);
   EXPECT_EQ(GenerateLinearBarcode(nullptr), nullptr);
+  DataMatrixBarcodeInfo tooSmall = MatrixRecord(0);
+  tooSmall.MatrixSize = 0x0A0A;
+  tooSmall.IsExpanding = 0;
+  EXPECT_EQ(GenerateDataMatrixBarcode(&tooSmall), nullptr);
   SetHatchPattern(0.0, 0);
   EXPECT_EQ(HatchBarcodeString("AaA"), nullptr);
   SetHatchPattern(1e-300, 0);

@@ -1,0 +1,50 @@
+// A Data Matrix as a fill buffer.
+#include "api/ApiTrace.h"
+#include "api/BarcodeSettings.h"
+#include "api/DataText.h"
+#include "barhatch.h"
+#include "datamatrix/DataMatrixEncoder.h"
+#include "hatch/Hatcher.h"
+
+namespace {
+
+constexpr std::size_t kLongestDataMatrixText =
+    3116;  // digits of the largest symbol: 1558 codewords of two
+
+bool IsDataMatrixText(const BarhatchChar* text) {
+  return text != nullptr &&
+         barhatch::TextLength(text, kLongestDataMatrixText) <= kLongestDataMatrixText;
+}
+
+void CopyRecord(const DataMatrixBarcodeInfo& info, barhatch::BarcodeSettings& settings) {
+  settings.height = info.height;
+  settings.format = info.format;
+  settings.MatrixSize = info.MatrixSize;
+  barhatch::StoreText(info.DataString, settings);
+  settings.HatchingType = info.HatchingType;
+  settings.LineGap = info.LineGap;
+  settings.InvertImage = info.InvertImage;
+  settings.IsExpanding = info.IsExpanding;
+  settings.QuietZone = info.QuietZone;
+  settings.QuietZoneSize = info.QuietZoneSize;
+  settings.BorderWidth = info.BorderWidth;
+}
+
+}  // namespace
+
+extern "C" FillBufferInfo* GenerateDataMatrixBarcode(const DataMatrixBarcodeInfo* info) {
+  barhatch::TraceGenerateDataMatrixBarcode(info);
+  if (info == nullptr || !IsDataMatrixText(info->DataString)) return nullptr;
+  CopyRecord(*info, barhatch::CurrentSettings());
+
+  barhatch::DataMatrixEncoder encoder;
+  TwoDStringResult* matrix = encoder.EncodeDataMatrix();
+  if (matrix == nullptr) return nullptr;
+  FillBufferInfo* fill = nullptr;
+  if (matrix->data != nullptr) {
+    barhatch::Hatcher hatcher;
+    fill = hatcher.VectorizeMatrix(*matrix);
+  }
+  Free2DBarcodeStringResult(matrix);
+  return fill;
+}
