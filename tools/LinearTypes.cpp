@@ -44,7 +44,7 @@ std::string LinearTypeList() {
   for (std::int32_t type = 0; type < kTypes; ++type) {
     list += (type < 10 ? "   " : "  ") + std::to_string(type) + "  " + kNames[type] + '\n';
   }
-  return list;
+  return list + "      datamatrix\n";
 }
 
 }  // namespace preview

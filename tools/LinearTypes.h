@@ -16,7 +16,7 @@ std::optional<std::int32_t> LinearTypeFrom(std::string_view text);
 // "code39" for 1; "type 23" where there is no such type.
 std::string LinearTypeName(std::int32_t type);
 
-// All numbers and names, one a line, for the help text.
+// All numbers and names, one a line and Data Matrix last, for the help text.
 std::string LinearTypeList();
 
 }  // namespace preview

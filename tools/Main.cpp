@@ -19,6 +19,7 @@ namespace {
 
 constexpr int kRefused = 1;
 constexpr int kBadArguments = 2;
+constexpr const char* kDataMatrixName = "datamatrix";
 constexpr double kLargestPicture = 100e6;  // pixels
 
 struct Options {
@@ -26,6 +27,7 @@ struct Options {
   std::vector<std::string> outputs;
   bool darkPart = false;
   bool verify = false;
+  bool expandSize = false;
   double beam = 0.0;           // 0: as wide as the gap
   double margin = -1.0;        // negative: a tenth of the width
   double pixelsPerUnit = 0.0;  // 0: 1600 pixels across
@@ -36,8 +38,34 @@ bool EndsWith(const std::string& text, const std::string& ending) {
          text.compare(text.size() - ending.size(), ending.size(), ending) == 0;
 }
 
+void SetType(const std::string& text, preview::Request& request) {
+  if (text == kDataMatrixName) {
+    request.kind = preview::Kind::kDataMatrix;
+  } else {
+    request.type = *preview::LinearTypeFrom(text);
+  }
+}
+
 std::string CheckType(const std::string& text) {
-  return preview::LinearTypeFrom(text) ? "" : "no barcode type \"" + text + "\" (see --help)";
+  if (text == kDataMatrixName || preview::LinearTypeFrom(text)) return "";
+  return "no barcode type \"" + text + "\" (see --help)";
+}
+
+// "16x48" as rows x 256 + columns; nothing for anything else.
+std::optional<std::int32_t> MatrixSizeFrom(const std::string& text) {
+  const std::size_t x = text.find('x');
+  std::int32_t rows = 0;
+  std::int32_t columns = 0;
+  if (x == std::string::npos || !CLI::detail::lexical_cast(text.substr(0, x), rows) ||
+      !CLI::detail::lexical_cast(text.substr(x + 1), columns)) {
+    return std::nullopt;
+  }
+  if (rows < 1 || rows > 255 || columns < 1 || columns > 255) return std::nullopt;
+  return rows * 256 + columns;
+}
+
+std::string CheckMatrixSize(const std::string& text) {
+  return MatrixSizeFrom(text) ? "" : "\"" + text + "\" is not a size such as 16x48";
 }
 
 std::string CheckOutput(const std::string& path) {
@@ -57,8 +85,7 @@ std::string CheckLength(const std::string& text) {
 void Describe(CLI::App& app, Options& options) {
   preview::Request& request = options.request;
   app.add_option_function<std::string>(
-         "-t,--type",
-         [&](const std::string& text) { request.type = *preview::LinearTypeFrom(text); },
+         "-t,--type", [&](const std::string& text) { SetType(text, request); },
          "barcode type by number or name (default code39)")
       ->check(CheckType);
   app.add_option("text", request.text, "text of the barcode, UTF-8")->required();
@@ -85,6 +112,18 @@ void Describe(CLI::App& app, Options& options) {
                  "file to write, .svg or .png; may be given several times")
       ->check(CheckOutput)
       ->required();
+  app.add_option_function<std::string>(
+         "--size",
+         [&](const std::string& text) {
+           request.matrixSize = *MatrixSizeFrom(text);
+           request.expand = false;
+         },
+         "size of a Data Matrix, rows x columns (default: the smallest square)")
+      ->check(CheckMatrixSize);
+  app.add_flag("--expand", options.expandSize, "the Data Matrix may grow beyond --size");
+  app.add_option("--format", request.format,
+                 "code format of a Data Matrix: 1 FNC1 second, 2 and 3 macro headers")
+      ->check(CLI::Range(0, 3));
   app.add_flag("--verify", options.verify,
                "read the drawn symbol back with an independent reader; exit code 1 if it cannot");
   app.add_flag("--dark-part", options.darkPart,
@@ -100,16 +139,17 @@ void Describe(CLI::App& app, Options& options) {
   app.footer(preview::LinearTypeList());
 }
 
-preview::View ViewOf(const Options& options) {
+preview::View ViewOf(const FillBufferInfo& fill, const Options& options) {
   const preview::Request& request = options.request;
   const double beam = options.beam > 0.0 ? options.beam : request.gap;
-  const double margin = options.margin >= 0.0 ? options.margin : request.width / 10;
-  return {request.width, request.height, margin, beam,
+  const double width = preview::WidthOf(request, fill);
+  const double margin = options.margin >= 0.0 ? options.margin : width / 10;
+  return {width, request.height, margin, beam,
           options.darkPart ? preview::Part::kDark : preview::Part::kLight};
 }
 
 std::optional<preview::Picture> DrawPicture(const FillBufferInfo& fill, const Options& options) {
-  const preview::View view = ViewOf(options);
+  const preview::View view = ViewOf(fill, options);
   const double across = view.width + 2 * view.margin;
   const double pixelsPerUnit =
       options.pixelsPerUnit > 0.0 ? options.pixelsPerUnit : 1600.0 / across;
@@ -120,7 +160,7 @@ std::optional<preview::Picture> DrawPicture(const FillBufferInfo& fill, const Op
 }
 
 bool WriteOne(const std::string& path, const FillBufferInfo& fill, const Options& options) {
-  if (EndsWith(path, ".svg")) return preview::WriteSvg(path, fill, ViewOf(options));
+  if (EndsWith(path, ".svg")) return preview::WriteSvg(path, fill, ViewOf(fill, options));
   const std::optional<preview::Picture> picture = DrawPicture(fill, options);
   return picture && preview::WritePng(path, *picture);
 }
@@ -150,9 +190,8 @@ int Run(const Options& options) {
     return kRefused;
   }
   const bool points = fill->FillingShapeType == 2;
-  std::printf("%s \"%s\": %d %s\n", preview::LinearTypeName(request.type).c_str(),
-              request.text.c_str(), fill->BufferLength / (points ? 2 : 4),
-              points ? "points" : "strokes");
+  std::printf("%s \"%s\": %d %s\n", preview::NameOf(request).c_str(), request.text.c_str(),
+              fill->BufferLength / (points ? 2 : 4), points ? "points" : "strokes");
   for (const std::string& path : options.outputs) {
     if (!WriteOne(path, *fill, options)) {
       std::fprintf(stderr, "barhatch: cannot write %s\n", path.c_str());
@@ -175,6 +214,7 @@ int ParseAndRun(int argc, char** argv) {
     std::fprintf(stderr, "barhatch: %s\n", error.what());
     return kBadArguments;
   }
+  if (options.expandSize) options.request.expand = true;
   return Run(options);
 }
 

@@ -61,6 +61,16 @@ Mark StrokeMark(double xa, double ya, double xb, double yb, double beam) {
   return mark;
 }
 
+void AppendDisc(double x, double y, double radius, std::vector<Mark>& marks) {
+  constexpr int kSlices = 24;
+  const double slice = 2 * radius / kSlices;
+  for (int i = 0; i < kSlices; ++i) {
+    const double middle = (i + 0.5) * slice - radius;
+    const double half = std::sqrt(radius * radius - middle * middle);
+    marks.push_back({x - half, y + middle - slice / 2, x + half, y + middle + slice / 2});
+  }
+}
+
 }  // namespace
 
 std::vector<Mark> MarksOf(const FillBufferInfo& fill, double beam) {
@@ -68,7 +78,7 @@ std::vector<Mark> MarksOf(const FillBufferInfo& fill, double beam) {
   const double* c = fill.FilledArray;
   if (fill.FillingShapeType == 2) {
     for (std::int32_t i = 0; i + 1 < fill.BufferLength; i += 2) {
-      marks.push_back({c[i] - beam / 2, c[i + 1] - beam / 2, c[i] + beam / 2, c[i + 1] + beam / 2});
+      AppendDisc(c[i], c[i + 1], beam / 2, marks);
     }
   } else {
     for (std::int32_t i = 0; i + 3 < fill.BufferLength; i += 4) {

@@ -26,7 +26,8 @@ struct Mark {
   double left, bottom, right, top;
 };
 
-// The marks of a fill in drawing order; a point becomes a square as wide as the beam.
+// The marks of a fill in drawing order; a point becomes a disc as wide as the beam, in narrow
+// slices.
 std::vector<Mark> MarksOf(const FillBufferInfo& fill, double beam);
 
 // An 8-bit grey picture, top row first. Every pixel is as dark (or light) as its area is covered by

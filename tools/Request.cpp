@@ -7,6 +7,7 @@ namespace preview {
 namespace {
 
 constexpr std::size_t kLongestText = 3119;
+constexpr std::size_t kLongestDataMatrixText = 3116;
 constexpr char32_t kReplacement = 0xFFFD;
 
 // The code point that starts at index, which moves behind it.
@@ -32,6 +33,44 @@ bool HasModuleString(const Request& request) {
   return letters != nullptr;
 }
 
+Fill GenerateLinear(const Request& request) {
+  const std::vector<BarhatchChar> text = ToUnits(request.text);
+  LinearBarcodeInfo info{};
+  info.height = request.height;
+  info.width = request.width;
+  info.type = request.type;
+  info.DataString = text.data();
+  info.HatchingType = request.pattern;
+  info.LineGap = request.gap;
+  info.InvertImage = request.invert ? 1 : 0;
+  info.PrintRatio = request.ratio;
+  info.QuietZone = request.quietZone ? 1 : 0;
+  return Fill(GenerateLinearBarcode(&info));
+}
+
+Fill GenerateMatrix(const Request& request) {
+  const std::vector<BarhatchChar> text = ToUnits(request.text);
+  DataMatrixBarcodeInfo info{};
+  info.height = request.height;
+  info.format = request.format;
+  info.DataString = text.data();
+  info.HatchingType = request.pattern;
+  info.LineGap = request.gap;
+  info.InvertImage = request.invert ? 1 : 0;
+  info.MatrixSize = request.matrixSize;
+  info.IsExpanding = request.expand ? 1 : 0;
+  info.QuietZone = request.quietZone ? 1 : 0;
+  return Fill(GenerateDataMatrixBarcode(&info));
+}
+
+// Points of one module each always fill something, so null with them means that there is no symbol.
+bool HasMatrix(const Request& request) {
+  Request points = request;
+  points.pattern = 6;
+  points.height = 1.0;
+  return Generate(points) != nullptr;
+}
+
 }  // namespace
 
 std::vector<BarhatchChar> ToUnits(const std::string& utf8) {
@@ -50,29 +89,31 @@ std::vector<BarhatchChar> ToUnits(const std::string& utf8) {
 }
 
 Fill Generate(const Request& request) {
-  const std::vector<BarhatchChar> text = ToUnits(request.text);
   InitBarcode();
-  LinearBarcodeInfo info{};
-  info.height = request.height;
-  info.width = request.width;
-  info.type = request.type;
-  info.DataString = text.data();
-  info.HatchingType = request.pattern;
-  info.LineGap = request.gap;
-  info.InvertImage = request.invert ? 1 : 0;
-  info.PrintRatio = request.ratio;
-  info.QuietZone = request.quietZone ? 1 : 0;
-  return Fill(GenerateLinearBarcode(&info));
+  return request.kind == Kind::kDataMatrix ? GenerateMatrix(request) : GenerateLinear(request);
+}
+
+std::string NameOf(const Request& request) {
+  return request.kind == Kind::kDataMatrix ? "datamatrix" : LinearTypeName(request.type);
+}
+
+double WidthOf(const Request& request, const FillBufferInfo& fill) {
+  if (request.kind == Kind::kLinear) return request.width;
+  return fill.FillWidth + (request.height - fill.FillHeight);
 }
 
 std::string WhyRefused(const Request& request) {
+  const bool isMatrix = request.kind == Kind::kDataMatrix;
   const std::size_t units = ToUnits(request.text).size() - 1;
-  if (units > kLongestText) {
+  const std::size_t limit = isMatrix ? kLongestDataMatrixText : kLongestText;
+  if (units > limit) {
     return "the text has " + std::to_string(units) + " characters, the limit is " +
-           std::to_string(kLongestText);
+           std::to_string(limit);
   }
-  if (!HasModuleString(request)) {
-    return LinearTypeName(request.type) + " cannot encode the text \"" + request.text + '"';
+  if (isMatrix && !HasMatrix(request))
+    return "the text does not fit a Data Matrix of the size asked for";
+  if (!isMatrix && !HasModuleString(request)) {
+    return NameOf(request) + " cannot encode the text \"" + request.text + '"';
   }
   return "pattern " + std::to_string(request.pattern) + " with a line gap of " +
          std::to_string(request.gap) + " fills nothing, or more than a fill buffer holds";

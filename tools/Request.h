@@ -11,9 +11,12 @@
 
 namespace preview {
 
+enum class Kind { kLinear, kDataMatrix };
+
 struct Request {
-  std::int32_t type = 1;
-  std::string text;  // UTF-8
+  Kind kind = Kind::kLinear;
+  std::int32_t type = 1;  // of a linear symbol
+  std::string text;       // UTF-8
   double width = 60.0;
   double height = 12.0;
   double ratio = 3.0;
@@ -21,6 +24,9 @@ struct Request {
   bool quietZone = false;
   std::int32_t pattern = 0;
   double gap = 0.1;
+  std::int32_t matrixSize = 0;  // of a Data Matrix: rows x 256 + columns, 0 for the smallest square
+  bool expand = true;           // a Data Matrix may grow beyond its size
+  std::int32_t format = 0;      // code format of a Data Matrix
 };
 
 struct FillRelease {
@@ -34,6 +40,13 @@ std::vector<BarhatchChar> ToUnits(const std::string& utf8);
 
 // Null when the library refuses.
 Fill Generate(const Request& request);
+
+// "code39" or "datamatrix".
+std::string NameOf(const Request& request);
+
+// Width of the symbol that was generated: what was asked for, or what a Data Matrix has taken. Its
+// cells are square, and both extents of a matrix are its size less two cells.
+double WidthOf(const Request& request, const FillBufferInfo& fill);
 
 // Why Generate gave null, as far as a host can tell.
 std::string WhyRefused(const Request& request);
