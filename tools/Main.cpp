@@ -20,6 +20,7 @@ namespace {
 constexpr int kRefused = 1;
 constexpr int kBadArguments = 2;
 constexpr const char* kDataMatrixName = "datamatrix";
+constexpr int kSpiral = 5;
 constexpr double kLargestPicture = 100e6;  // pixels
 
 struct Options {
@@ -144,8 +145,13 @@ preview::View ViewOf(const FillBufferInfo& fill, const Options& options) {
   const double beam = options.beam > 0.0 ? options.beam : request.gap;
   const double width = preview::WidthOf(request, fill);
   const double margin = options.margin >= 0.0 ? options.margin : width / 10;
-  return {width, request.height, margin, beam,
-          options.darkPart ? preview::Part::kDark : preview::Part::kLight};
+  return {
+      width,
+      request.height,
+      margin,
+      beam,
+      options.darkPart ? preview::Part::kDark : preview::Part::kLight,
+      request.pattern == kSpiral ? preview::StrokeEnds::kProjecting : preview::StrokeEnds::kFlush};
 }
 
 std::optional<preview::Picture> DrawPicture(const FillBufferInfo& fill, const Options& options) {
@@ -156,7 +162,7 @@ std::optional<preview::Picture> DrawPicture(const FillBufferInfo& fill, const Op
   if (across * (view.height + 2 * view.margin) * pixelsPerUnit * pixelsPerUnit > kLargestPicture) {
     return std::nullopt;
   }
-  return preview::Draw(preview::MarksOf(fill, view.beam), view, pixelsPerUnit);
+  return preview::Draw(preview::MarksOf(fill, view), view, pixelsPerUnit);
 }
 
 bool WriteOne(const std::string& path, const FillBufferInfo& fill, const Options& options) {

@@ -49,16 +49,13 @@ class CoverageMap {
   std::vector<float> coverage_;
 };
 
-Mark StrokeMark(double xa, double ya, double xb, double yb, double beam) {
-  Mark mark{std::min(xa, xb), std::min(ya, yb), std::max(xa, xb), std::max(ya, yb)};
-  if (ya == yb) {
-    mark.bottom -= beam / 2;
-    mark.top += beam / 2;
-  } else {
-    mark.left -= beam / 2;
-    mark.right += beam / 2;
-  }
-  return mark;
+Mark StrokeMark(double xa, double ya, double xb, double yb, const View& view) {
+  const double across = view.beam / 2;
+  const double along = view.ends == StrokeEnds::kProjecting ? across : 0.0;
+  const double dx = ya == yb ? along : across;
+  const double dy = ya == yb ? across : along;
+  return {std::min(xa, xb) - dx, std::min(ya, yb) - dy, std::max(xa, xb) + dx,
+          std::max(ya, yb) + dy};
 }
 
 void AppendDisc(double x, double y, double radius, std::vector<Mark>& marks) {
@@ -73,16 +70,16 @@ void AppendDisc(double x, double y, double radius, std::vector<Mark>& marks) {
 
 }  // namespace
 
-std::vector<Mark> MarksOf(const FillBufferInfo& fill, double beam) {
+std::vector<Mark> MarksOf(const FillBufferInfo& fill, const View& view) {
   std::vector<Mark> marks;
   const double* c = fill.FilledArray;
   if (fill.FillingShapeType == 2) {
     for (std::int32_t i = 0; i + 1 < fill.BufferLength; i += 2) {
-      AppendDisc(c[i], c[i + 1], beam / 2, marks);
+      AppendDisc(c[i], c[i + 1], view.beam / 2, marks);
     }
   } else {
     for (std::int32_t i = 0; i + 3 < fill.BufferLength; i += 4) {
-      marks.push_back(StrokeMark(c[i], c[i + 1], c[i + 2], c[i + 3], beam));
+      marks.push_back(StrokeMark(c[i], c[i + 1], c[i + 2], c[i + 3], view));
     }
   }
   return marks;

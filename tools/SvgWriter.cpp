@@ -48,8 +48,8 @@ bool WriteSvg(const std::string& path, const FillBufferInfo& fill, const View& v
   if (fill.FillingShapeType == 2) {
     out << "<g fill=\"" << colour << "\">\n";
   } else {
-    out << "<g stroke=\"" << colour << "\" stroke-width=\"" << view.beam
-        << "\" stroke-linecap=\"butt\">\n";
+    out << "<g stroke=\"" << colour << "\" stroke-width=\"" << view.beam << "\" stroke-linecap=\""
+        << (view.ends == StrokeEnds::kProjecting ? "square" : "butt") << "\">\n";
   }
   WriteStrokes(out, fill, view);
   out << "</g>\n</svg>\n";
