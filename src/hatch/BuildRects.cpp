@@ -9,12 +9,12 @@ namespace {
 bool IsNarrow(char letter) { return letter == kNarrowBar || letter == kNarrowSpace; }
 bool IsWide(char letter) { return letter == kWideBar || letter == kWideSpace; }
 
-}  // namespace
-
 bool IsFilled(char letter, FilledElements filled) {
   return filled == FilledElements::kDark ? letter == kNarrowBar || letter == kWideBar
                                          : letter == kNarrowSpace || letter == kWideSpace;
 }
+
+}  // namespace
 
 double ModuleCount(const char* moduleString, double printRatio) {
   double modules = 0.0;
@@ -37,7 +37,7 @@ double BuildRects(const char* row, const ElementSizes& sizes, FilledElements fil
   for (; *row != '\0'; ++row) {
     if (!IsNarrow(*row) && !IsWide(*row)) continue;
     const double right = x + (IsWide(*row) ? sizes.wideSize : sizes.moduleSize);
-    if (IsFilled(*row, filled)) rects.Append(HatchRect(x, 0.0, right, sizes.barHeight));
+    if (IsFilled(*row, filled)) rects.AppendRect(x, 0.0, right, sizes.barHeight);
     x = right;
   }
   return x;

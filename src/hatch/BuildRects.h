@@ -18,9 +18,6 @@ struct ElementSizes {
   double barHeight;
 };
 
-// True for the letters of the shade that is filled.
-bool IsFilled(char letter, FilledElements filled);
-
 // Width in modules: every 'A' or 'a' counts 1.0, every 'B' or 'b' counts printRatio, nothing else
 // counts. "ABab" with a print ratio of 2.5 has 7.0 modules.
 double ModuleCount(const char* moduleString, double printRatio);

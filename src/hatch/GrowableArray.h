@@ -62,8 +62,8 @@ class GrowableArray {
   }
 
  private:
-  // Null when there is no memory. The form that does not throw still ends the program where the size
-  // in bytes overflows, which on a 32-bit machine a fill of many strokes gets near to.
+  // Null when there is no memory. The form that does not throw still ends the program where the
+  // size in bytes overflows, which on a 32-bit machine a fill of many strokes gets near to.
   static T* NewArray(std::size_t capacity) {
     if (capacity > static_cast<std::size_t>(PTRDIFF_MAX) / sizeof(T)) return nullptr;
     return new (std::nothrow) T[capacity];

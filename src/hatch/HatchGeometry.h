@@ -27,6 +27,14 @@ class HatchRect {
   HatchRect& operator=(const HatchRect&) = default;
   virtual ~HatchRect() = default;
 
+  // The same as assigning HatchRect(x0, y0, x1, y1), for a rectangle that is already in its list.
+  void Set(double x0, double y0, double x1, double y1) {
+    lowerLeft.x = x0;
+    lowerLeft.y = y0;
+    upperRight.x = x1;
+    upperRight.y = y1;
+  }
+
   // Moves both corners by dx to the right and dy upwards.
   void Offset(double dx, double dy) {
     lowerLeft.x += dx;

@@ -11,6 +11,10 @@ namespace barhatch {
 class RectList : public GrowableArray<HatchRect> {
  public:
   using GrowableArray::GrowableArray;
+
+  void AppendRect(double x0, double y0, double x1, double y1) {
+    if (HatchRect* room = RoomFor(1)) room->Set(x0, y0, x1, y1);
+  }
 };
 
 class CoordinateList : public GrowableArray<double> {

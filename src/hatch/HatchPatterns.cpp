@@ -35,11 +35,13 @@ DoubleCount MostDoubles(const RectList& rects, const HatchStyle& style) {
     case kSpiral:
       return MostSpiralDoubles(rects, style.lineGap);
     case kCentres:
-      return MostCentreDoubles(rects);
+      return CentreDoubles(rects.Count());
     default:
       return 0;
   }
 }
+
+bool IsCountedWithoutRects(const HatchStyle& style) { return style.hatchingType == kCentres; }
 
 void FillRects(const RectList& rects, const HatchStyle& style, CoordinateList& coordinates) {
   if (!HasUsableGap(style)) return;

@@ -20,6 +20,10 @@ struct HatchStyle {
 // small the gap.
 DoubleCount MostDoubles(const RectList& rects, const HatchStyle& style);
 
+// True for the pattern whose fill is counted by the number of rectangles alone, whatever they are:
+// CentreDoubles of LinePatterns.h.
+bool IsCountedWithoutRects(const HatchStyle& style);
+
 // Appends the coordinates of the fill.
 // REQUIRES: MostDoubles(rects, style) is not kUncountable.
 void FillRects(const RectList& rects, const HatchStyle& style, CoordinateList& coordinates);

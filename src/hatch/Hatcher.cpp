@@ -4,6 +4,7 @@
 #include "hatch/BuildRects.h"
 #include "hatch/FillBuffer.h"
 #include "hatch/HatchPatterns.h"
+#include "hatch/LinePatterns.h"
 #include "hatch/MatrixRects.h"
 
 namespace barhatch {
@@ -40,12 +41,18 @@ FillBufferInfo* FillOfList(const RectList& rects, const BarcodeSettings& setting
   return PackFill(coordinates, settings);
 }
 
+DoubleCount MostDoublesOfRows(MatrixRects& matrix, int rows, const HatchStyle& style) {
+  if (IsCountedWithoutRects(style)) return CentreDoubles(matrix.Count());
+  DoubleCount most = 0;
+  for (int row = 0; row < rows && most != kUncountable; ++row) {
+    most = AddCounts(most, MostDoubles(matrix.Row(row), style));
+  }
+  return most;
+}
+
 FillBufferInfo* FillOfRows(MatrixRects& matrix, int rows, const BarcodeSettings& settings) {
   const HatchStyle style = StyleOf(settings);
-  DoubleCount mostDoubles = 0;
-  for (int row = 0; row < rows && mostDoubles != kUncountable; ++row) {
-    mostDoubles = AddCounts(mostDoubles, MostDoubles(matrix.Row(row), style));
-  }
+  const DoubleCount mostDoubles = MostDoublesOfRows(matrix, rows, style);
   if (mostDoubles <= 0) return nullptr;
   CoordinateList coordinates(static_cast<std::size_t>(mostDoubles));
   for (int row = 0; row < rows; ++row) FillRects(matrix.Row(row), style, coordinates);

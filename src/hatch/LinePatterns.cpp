@@ -92,15 +92,18 @@ void FillWithLines(const RectList& rects, double gap, LineDirection direction, L
   }
 }
 
-DoubleCount MostCentreDoubles(const RectList& rects) {
-  const DoubleCount count = static_cast<DoubleCount>(rects.Count());
+DoubleCount CentreDoubles(std::size_t rects) {
+  const DoubleCount count = static_cast<DoubleCount>(rects);
   return count > kMostDoubles / kDoublesPerPoint ? kUncountable : count * kDoublesPerPoint;
 }
 
 void FillWithCentres(const RectList& rects, CoordinateList& coordinates) {
+  double* room = coordinates.RoomFor(kDoublesPerPoint * rects.Count());
+  if (room == nullptr) return;
   for (const HatchRect& rect : rects) {
-    coordinates.AppendPoint((rect.upperRight.x + rect.lowerLeft.x) * 0.5,
-                            (rect.upperRight.y + rect.lowerLeft.y) * 0.5);
+    room[0] = (rect.upperRight.x + rect.lowerLeft.x) * 0.5;
+    room[1] = (rect.upperRight.y + rect.lowerLeft.y) * 0.5;
+    room += kDoublesPerPoint;
   }
 }
 

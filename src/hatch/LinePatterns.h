@@ -30,7 +30,7 @@ void FillWithLines(const RectList& rects, double gap, LineDirection direction, L
                    CoordinateList& coordinates);
 
 // Hatching type 6: the centre of every rectangle; uses no gap.
-DoubleCount MostCentreDoubles(const RectList& rects);
+DoubleCount CentreDoubles(std::size_t rects);
 void FillWithCentres(const RectList& rects, CoordinateList& coordinates);
 
 }  // namespace barhatch

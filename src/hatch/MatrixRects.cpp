@@ -1,21 +1,28 @@
 #include "hatch/MatrixRects.h"
 
-#include <cstddef>
+#include "symbologies/ModuleString.h"
 
 namespace barhatch {
 
 MatrixRects::MatrixRects(const TwoDStringResult& matrix, double cellSize, FilledElements filled)
     : matrix_(matrix),
       cellSize_(cellSize),
-      filled_(filled),
+      filledLetter_(filled == FilledElements::kDark ? kNarrowBar : kNarrowSpace),
       columns_(static_cast<std::size_t>(matrix.numcols)),
       rects_(static_cast<std::size_t>(matrix.numcols)),
       width_(0.0) {
   for (std::int32_t column = 0; column < matrix.numcols; ++column) {
     const double right = width_ + cellSize;
-    columns_.Append(HatchRect(width_, 0.0, right, cellSize));
+    columns_.AppendRect(width_, 0.0, right, cellSize);
     width_ = right;
   }
+}
+
+std::size_t MatrixRects::Count() const {
+  const int modules = matrix_.numrows * matrix_.numcols;
+  std::size_t count = 0;
+  for (int i = 0; i < modules; ++i) count += matrix_.data[i] == filledLetter_ ? 1u : 0u;
+  return count;
 }
 
 const RectList& MatrixRects::Row(int rowFromBottom) {
@@ -27,9 +34,9 @@ const RectList& MatrixRects::Row(int rowFromBottom) {
 
   rects_.Clear();
   for (std::size_t column = 0; column < columns; ++column) {
-    if (!IsFilled(letters[column], filled_)) continue;
-    rects_.Append(HatchRect(columns_[column].lowerLeft.x, raised.lowerLeft.y,
-                            columns_[column].upperRight.x, raised.upperRight.y));
+    if (letters[column] != filledLetter_) continue;
+    const HatchRect& cell = columns_[column];
+    rects_.AppendRect(cell.lowerLeft.x, raised.lowerLeft.y, cell.upperRight.x, raised.upperRight.y);
   }
   return rects_;
 }

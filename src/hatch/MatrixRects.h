@@ -3,6 +3,8 @@
 #ifndef BARHATCH_HATCH_MATRIXRECTS_H
 #define BARHATCH_HATCH_MATRIXRECTS_H
 
+#include <cstddef>
+
 #include "barhatch.h"
 #include "hatch/BuildRects.h"
 #include "hatch/HatchLists.h"
@@ -17,6 +19,9 @@ class MatrixRects {
 
   bool HasFailed() const { return columns_.HasFailed() || rects_.HasFailed(); }
 
+  // Filled cells of the whole matrix.
+  std::size_t Count() const;
+
   // The x behind the last column.
   double Width() const { return width_; }
 
@@ -27,7 +32,7 @@ class MatrixRects {
  private:
   const TwoDStringResult& matrix_;
   const double cellSize_;
-  const FilledElements filled_;
+  const char filledLetter_;
   RectList columns_;  // the cells of a row in which every module is filled
   RectList rects_;
   double width_;
