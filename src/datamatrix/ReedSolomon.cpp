@@ -2,7 +2,6 @@
 
 #include <cassert>
 #include <cstddef>
-#include <cstring>
 
 namespace barhatch {
 
@@ -94,28 +93,52 @@ const std::uint8_t* GeneratorLogs(int degree) {
   return nullptr;
 }
 
-// One step of the division by the generator: the remainder moves up by one power, and the generator
-// times the codeword that leaves at the top is added. remainder[degree] is 0.
-void DivideStep(const std::uint8_t* generatorLogs, int degree, int leading,
-                std::uint8_t* remainder) {
-  if (leading == 0) {
-    std::memmove(remainder, remainder + 1, static_cast<std::size_t>(degree));
-    return;
-  }
-  const std::uint8_t* const products = kField.antilog + kField.log[leading];
-  for (int i = 0; i < degree; ++i)
-    remainder[i] = static_cast<std::uint8_t>(remainder[i + 1] ^ products[generatorLogs[i]]);
-}
+constexpr int ShiftOf(int coefficient) { return 24 - 8 * (coefficient % 4); }
 
 }  // namespace
 
-void EncodeBlock(std::uint8_t* block, int dataCodewords, int errorCodewords, int stride) {
-  const std::uint8_t* const generatorLogs = GeneratorLogs(errorCodewords);
+BlockCoder::BlockCoder(int errorCodewords)
+    : degree_(errorCodewords), words_((errorCodewords + 3) / 4) {
+  Tabulate(lowMultiples_, 1);
+  Tabulate(highMultiples_, 16);
+}
+
+// Multiplication in the field is linear: four products make the others by addition.
+void BlockCoder::Tabulate(Polynomial (&multiples)[16], int lowestFactor) const {
+  const std::uint8_t* const generatorLogs = GeneratorLogs(degree_);
   assert(generatorLogs != nullptr);
-  std::uint8_t remainder[kMaxDegree + 1] = {};
-  for (int i = 0; i < dataCodewords; ++i)
-    DivideStep(generatorLogs, errorCodewords, block[i * stride] ^ remainder[0], remainder);
-  for (int i = 0; i < errorCodewords; ++i) block[(dataCodewords + i) * stride] = remainder[i];
+  multiples[0] = {};
+  for (int factor = 1; factor < 16; ++factor) {
+    Polynomial& multiple = multiples[factor];
+    const int lowestBit = factor & -factor;
+    if (factor != lowestBit) {
+      for (int w = 0; w < words_; ++w) {
+        multiple.words[w] = multiples[lowestBit].words[w] ^ multiples[factor - lowestBit].words[w];
+      }
+      continue;
+    }
+    const std::uint8_t* const products = kField.antilog + kField.log[factor * lowestFactor];
+    multiple = {};
+    for (int i = 0; i < degree_; ++i) {
+      multiple.words[i / 4] |= static_cast<std::uint32_t>(products[generatorLogs[i]]) << ShiftOf(i);
+    }
+  }
+}
+
+void BlockCoder::Encode(std::uint8_t* block, int dataCodewords, int stride) const {
+  std::uint32_t remainder[kMaxWords + 1] = {};  // the last word stays 0
+  for (int i = 0; i < dataCodewords; ++i) {
+    const std::uint32_t leading = block[i * stride] ^ remainder[0] >> 24;
+    const Polynomial& low = lowMultiples_[leading & 0xF];
+    const Polynomial& high = highMultiples_[leading >> 4];
+    for (int w = 0; w < words_; ++w) {
+      const std::uint32_t moved = remainder[w] << 8 | remainder[w + 1] >> 24;
+      remainder[w] = moved ^ low.words[w] ^ high.words[w];
+    }
+  }
+  for (int i = 0; i < degree_; ++i) {
+    block[(dataCodewords + i) * stride] = static_cast<std::uint8_t>(remainder[i / 4] >> ShiftOf(i));
+  }
 }
 
 }  // namespace barhatch

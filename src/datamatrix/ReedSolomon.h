@@ -10,12 +10,36 @@
 
 namespace barhatch {
 
-// Writes the error codewords of one block right behind its data.
-//   block           codeword i of the block is block[i * stride], so that interleaved blocks are
-//                   coded where they stand
-//   errorCodewords  as many as a block of some symbol size has (5, 7, 10, 11, 12, 14, 18, 20, 24,
-//                   28, 36, 42, 48, 56, 62, 68)
-void EncodeBlock(std::uint8_t* block, int dataCodewords, int errorCodewords, int stride);
+// Codes the blocks of one symbol, which all have the same number of error codewords. The multiples
+// of the generator are tabled by the two halves of the leading codeword, so that a step of the
+// division is two additions of whole words, four codewords at a time.
+class BlockCoder {
+ public:
+  // errorCodewords: as many as a block of some symbol size has (5, 7, 10, 11, 12, 14, 18, 20, 24,
+  // 28, 36, 42, 48, 56, 62, 68).
+  explicit BlockCoder(int errorCodewords);
+
+  // Writes the error codewords of one block right behind its data. Codeword i of the block is
+  // block[i * stride], so that interleaved blocks are coded where they stand.
+  void Encode(std::uint8_t* block, int dataCodewords, int stride) const;
+
+ private:
+  static constexpr int kMaxDegree = 68;
+  static constexpr int kMaxWords = kMaxDegree / 4;
+
+  // The coefficients of a polynomial from x^(k-1) down, four to a word, the first in the highest
+  // byte; those behind the last one are 0.
+  struct Polynomial {
+    std::uint32_t words[kMaxWords];
+  };
+
+  void Tabulate(Polynomial (&multiples)[16], int lowestFactor) const;
+
+  const int degree_;
+  const int words_;
+  Polynomial lowMultiples_[16];   // by 0 to 15
+  Polynomial highMultiples_[16];  // by 0, 16, ... 240
+};
 
 }  // namespace barhatch
 

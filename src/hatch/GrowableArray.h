@@ -49,8 +49,9 @@ class GrowableArray {
     return room;
   }
 
-  // Forgets the elements and keeps the capacity.
-  void Clear() { count_ = 0; }
+  // Forgets the elements behind the first `count` and keeps the capacity. REQUIRES: count <=
+  // Count().
+  void Shorten(std::size_t count) { count_ = count; }
 
   // Hands over the array, which the caller releases with delete[]; the list is empty afterwards.
   T* Release() {

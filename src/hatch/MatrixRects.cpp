@@ -32,12 +32,17 @@ const RectList& MatrixRects::Row(int rowFromBottom) {
   HatchRect raised(0.0, 0.0, 0.0, cellSize_);
   raised.Offset(0.0, rowFromBottom * cellSize_);
 
-  rects_.Clear();
+  // Every cell is written where the next filled one belongs and stays there if it is filled: dark
+  // and light modules follow each other without a pattern that a processor could foresee.
+  rects_.Shorten(0);
+  HatchRect* const first = rects_.RoomFor(columns);
+  HatchRect* next = first;
   for (std::size_t column = 0; column < columns; ++column) {
-    if (letters[column] != filledLetter_) continue;
     const HatchRect& cell = columns_[column];
-    rects_.AppendRect(cell.lowerLeft.x, raised.lowerLeft.y, cell.upperRight.x, raised.upperRight.y);
+    next->Set(cell.lowerLeft.x, raised.lowerLeft.y, cell.upperRight.x, raised.upperRight.y);
+    next += letters[column] == filledLetter_ ? 1 : 0;
   }
+  rects_.Shorten(static_cast<std::size_t>(next - first));
   return rects_;
 }
 
