@@ -57,6 +57,25 @@ TEST(DeviceImage, ImportsAreWithinTheAllowedList) {
   }
 }
 
+// The names between "```imports" and the end of that block.
+std::set<std::string> DocumentedImports() {
+  std::set<std::string> names;
+  std::ifstream in(BARHATCH_PORTING_GUIDE);
+  bool inside = false;
+  for (std::string line; std::getline(in, line);) {
+    if (inside && line == "```") break;
+    if (inside) names.insert(line);
+    inside = inside || line == "```imports";
+  }
+  return names;
+}
+
+TEST(DeviceImage, ImportsAreExactlyTheDocumentedOnes) {
+  std::set<std::string> imported;
+  for (const PeImage::Import& import : ReadPeFile(kDll).imports) imported.insert(import.name);
+  EXPECT_EQ(imported, DocumentedImports());
+}
+
 TEST(DeviceImage, NoSectionIsBothWritableAndExecutable) {
   const PeImage image = ReadPeFile(kDll);
   for (const PeImage::Section& section : image.sections) {
