@@ -31,12 +31,14 @@ FillBufferInfo* PackFill(CoordinateList& coordinates, const BarcodeSettings& set
 }
 
 // Both fills count first and write once: the coordinates go straight into the array that the host
-// will get.
+// will get. Without that array no stroke is looked for; a gap that asks for more than the memory
+// holds may mean hundreds of millions of them.
 FillBufferInfo* FillOfList(const RectList& rects, const BarcodeSettings& settings) {
   const HatchStyle style = StyleOf(settings);
   const DoubleCount mostDoubles = MostDoubles(rects, style);
   if (mostDoubles <= 0) return nullptr;
   CoordinateList coordinates(static_cast<std::size_t>(mostDoubles));
+  if (coordinates.HasFailed()) return nullptr;
   FillRects(rects, style, coordinates);
   return PackFill(coordinates, settings);
 }
@@ -55,6 +57,7 @@ FillBufferInfo* FillOfRows(MatrixRects& matrix, int rows, const BarcodeSettings&
   const DoubleCount mostDoubles = MostDoublesOfRows(matrix, rows, style);
   if (mostDoubles <= 0) return nullptr;
   CoordinateList coordinates(static_cast<std::size_t>(mostDoubles));
+  if (coordinates.HasFailed()) return nullptr;
   for (int row = 0; row < rows; ++row) FillRects(matrix.Row(row), style, coordinates);
   return PackFill(coordinates, settings);
 }

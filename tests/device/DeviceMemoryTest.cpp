@@ -53,6 +53,23 @@ TEST(DeviceMemory, FailedAllocationsGiveNullAndLeaveNothing) {
   EXPECT_EQ(device.Call("GenerateBarcodeString", {}), 0u);
 }
 
+// The bytes of 2^29 doubles are more than 32 bits can say; a size that wraps around would be taken
+// for a small one.
+TEST(DeviceMemory, FillsWhoseSizeExceedsTheAddressSpaceAreNull) {
+  DeviceLibrary device;
+  device.InitBarcode();
+  for (const std::int32_t pattern : {0, 1, 2, 3, 5}) {
+    for (const double doubles :
+         {268435456.0, 536870912.0, 536870916.0, 536871040.0, 1073741828.0}) {
+      SCOPED_TRACE(testing::Message() << "pattern " << pattern << ", " << doubles << " doubles");
+      device.SetBarcodeSize(1.0, 1.0);
+      device.SetHatchPattern(4.0 / doubles, pattern);
+      EXPECT_EQ(device.HatchBarcodeString("A"), std::nullopt);
+      EXPECT_EQ(device.Heap().LiveBlocks(), 0u);
+    }
+  }
+}
+
 TEST(DeviceMemory, ACallTakesLittleStack) {
   DeviceLibrary device;
   device.InitBarcode();
