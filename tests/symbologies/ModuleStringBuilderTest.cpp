@@ -50,7 +50,9 @@ TEST(ModuleStringBuilder, IsEmptyOnceReleased) {
 }
 
 TEST(ModuleStringBuilder, WithoutMemoryNothingIsReleased) {
-  ModuleStringBuilder builder(static_cast<std::size_t>(-1) / 2, 1);
+  constexpr std::size_t kHalfOfAllMemory = static_cast<std::size_t>(-1) / 2;
+  const ModuleStringBuilder otherHalf(kHalfOfAllMemory, 1);
+  ModuleStringBuilder builder(kHalfOfAllMemory, 1);
   builder.AppendModules("1");
   EXPECT_FALSE(Take(builder.Release()));
 }
