@@ -42,16 +42,35 @@ std::ostream& operator<<(std::ostream& out, const Fill& fill) {
   return out << std::dec;
 }
 
-std::ostream& operator<<(std::ostream& out, const LinearBarcode& barcode) {
-  out << "type " << barcode.type << " \"";
-  for (const char16_t unit : barcode.text) {
+namespace {
+
+void Print(std::ostream& out, const std::u16string& text) {
+  out << '"';
+  for (const char16_t unit : text) {
     const bool isPlain = unit >= 32 && unit < 127;
     isPlain ? out << static_cast<char>(unit) : out << '<' << static_cast<unsigned>(unit) << '>';
   }
-  return out << "\" " << barcode.width << " x " << barcode.height << " pattern "
+  out << '"';
+}
+
+}  // namespace
+
+std::ostream& operator<<(std::ostream& out, const LinearBarcode& barcode) {
+  out << "type " << barcode.type << ' ';
+  Print(out, barcode.text);
+  return out << ' ' << barcode.width << " x " << barcode.height << " pattern "
              << barcode.HatchingType << " gap " << barcode.LineGap << " ratio "
              << barcode.PrintRatio << " invert " << int{barcode.InvertImage} << " quiet zone "
              << int{barcode.QuietZone};
+}
+
+std::ostream& operator<<(std::ostream& out, const MatrixBarcode& barcode) {
+  out << "format " << barcode.format << ' ';
+  Print(out, barcode.text);
+  return out << " size " << (barcode.MatrixSize >> 8) << " x " << (barcode.MatrixSize & 0xFF)
+             << (barcode.IsExpanding != 0 ? " or larger" : "") << ", height " << barcode.height
+             << " pattern " << barcode.HatchingType << " gap " << barcode.LineGap << " invert "
+             << int{barcode.InvertImage} << " quiet zone " << int{barcode.QuietZone};
 }
 
 }  // namespace barhatch::device

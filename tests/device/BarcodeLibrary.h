@@ -47,6 +47,22 @@ struct LinearBarcode {
 };
 std::ostream& operator<<(std::ostream& out, const LinearBarcode& barcode);
 
+// Input of GenerateDataMatrixBarcode.
+struct MatrixBarcode {
+  double height = 10.0;
+  std::int32_t format = 0;
+  std::u16string text;
+  std::int32_t HatchingType = 0;
+  double LineGap = 0.5;
+  std::uint8_t InvertImage = 0;
+  std::int32_t MatrixSize = 0;
+  std::uint8_t IsExpanding = 1;
+  std::uint8_t QuietZone = 0;
+  std::int32_t QuietZoneSize = 0;
+  std::int32_t BorderWidth = 0;
+};
+std::ostream& operator<<(std::ostream& out, const MatrixBarcode& barcode);
+
 class BarcodeLibrary {
  public:
   using MaybeText = std::optional<std::string>;
@@ -72,6 +88,7 @@ class BarcodeLibrary {
   virtual MaybeFill HatchBarcodeString(const std::string& moduleString) = 0;
   virtual MaybeFill GenerateVectorizedBarcode() = 0;
   virtual MaybeFill GenerateLinearBarcode(const LinearBarcode& barcode) = 0;
+  virtual MaybeFill GenerateDataMatrixBarcode(const MatrixBarcode& barcode) = 0;
 
   // The settings, byte by byte; their layout is the same on both sides.
   virtual std::vector<std::uint8_t> Settings() = 0;

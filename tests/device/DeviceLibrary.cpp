@@ -9,6 +9,7 @@ namespace barhatch::device {
 namespace {
 
 constexpr std::size_t kLinearBarcodeInfoSize = 72;
+constexpr std::size_t kDataMatrixBarcodeInfoSize = 56;
 constexpr char kSetMatrixsize[] = "?SetMatrixsize@@YAXW4_matrixSize@@@Z";
 constexpr char kTrace[] = "barhatch::(anonymous namespace)::traceStream";
 constexpr char kSettings[] = "barhatch::(anonymous namespace)::settingsOfTheProcess";
@@ -26,6 +27,22 @@ std::vector<std::uint8_t> LinearRecord(const LinearBarcode& barcode, std::uint32
       .Put(56, barcode.QuietZone)
       .Put(60, barcode.QuietZoneSize)
       .Put(64, barcode.BorderWidth)
+      .Bytes();
+}
+
+std::vector<std::uint8_t> MatrixRecord(const MatrixBarcode& barcode, std::uint32_t text) {
+  return RecordWriter(kDataMatrixBarcodeInfoSize)
+      .Put(0, barcode.height)
+      .Put(8, barcode.format)
+      .Put(12, text)
+      .Put(16, barcode.HatchingType)
+      .Put(24, barcode.LineGap)
+      .Put(32, barcode.InvertImage)
+      .Put(36, barcode.MatrixSize)
+      .Put(40, barcode.IsExpanding)
+      .Put(41, barcode.QuietZone)
+      .Put(44, barcode.QuietZoneSize)
+      .Put(48, barcode.BorderWidth)
       .Bytes();
 }
 
@@ -146,6 +163,20 @@ BarcodeLibrary::MaybeFill DeviceLibrary::GenerateLinearBarcode(const LinearBarco
   Remove(record);
   Remove(text);
   return TakeFill(fill);
+}
+
+std::uint32_t DeviceLibrary::CallGenerateDataMatrixBarcode(const MatrixBarcode& barcode) {
+  const std::uint32_t text = Place(barcode.text);
+  const std::vector<std::uint8_t> bytes = MatrixRecord(barcode, text);
+  const std::uint32_t record = Place(bytes.data(), bytes.size());
+  const std::uint32_t fill = Call("GenerateDataMatrixBarcode", Marshal(record));
+  Remove(record);
+  Remove(text);
+  return fill;
+}
+
+BarcodeLibrary::MaybeFill DeviceLibrary::GenerateDataMatrixBarcode(const MatrixBarcode& barcode) {
+  return TakeFill(CallGenerateDataMatrixBarcode(barcode));
 }
 
 BarcodeLibrary::MaybeFill DeviceLibrary::TakeFill(std::uint32_t address) {

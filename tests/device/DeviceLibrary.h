@@ -87,6 +87,7 @@ class DeviceLibrary : public BarcodeLibrary {
   MaybeFill HatchBarcodeString(const std::string& moduleString) override;
   MaybeFill GenerateVectorizedBarcode() override;
   MaybeFill GenerateLinearBarcode(const LinearBarcode& barcode) override;
+  MaybeFill GenerateDataMatrixBarcode(const MatrixBarcode& barcode) override;
   std::vector<std::uint8_t> Settings() override;
 
   // Calls an export by its exact name.
@@ -99,6 +100,9 @@ class DeviceLibrary : public BarcodeLibrary {
   std::uint32_t Place(const std::string& text) { return Place(text.c_str(), text.size() + 1); }
   std::uint32_t Place(const std::u16string& text);
   void Remove(std::uint32_t address);
+
+  // Places the record and its text, calls the generator, removes both; the fill buffer's address.
+  std::uint32_t CallGenerateDataMatrixBarcode(const MatrixBarcode& barcode);
 
   // Copies the fill buffer at the address and hands it to FreeBarcodeData.
   MaybeFill TakeFill(std::uint32_t address);

@@ -52,6 +52,22 @@ void AddUnlessRefused(std::vector<InstructionCount>& counts, const std::string& 
   if (instructions != 0) counts.push_back({name, static_cast<double>(instructions)});
 }
 
+// Words and numbers as on a label.
+std::u16string LabelText(std::size_t length) {
+  const std::u16string sample = u"Part 4711-08/15, Lot 2024-11-21 A; made in Town. ";
+  std::u16string text;
+  while (text.size() < length) text += sample;
+  return text.substr(0, length);
+}
+
+void AddMatrices(DeviceLibrary& device, std::vector<InstructionCount>& counts) {
+  for (const std::size_t length : {10U, 50U, 300U, 1500U}) {
+    AddUnlessRefused(counts, "matrix/text-" + std::to_string(length),
+                     CountMatrix(device, LabelText(length)));
+  }
+  AddUnlessRefused(counts, "matrix/digits-3116", CountMatrix(device, std::u16string(3116, u'7')));
+}
+
 }  // namespace
 
 std::uint64_t CountString(DeviceLibrary& device, std::int32_t type, const std::string& text) {
@@ -80,6 +96,17 @@ FillCount CountFill(DeviceLibrary& device, std::int32_t pattern, double lines) {
   return {instructions, fill ? static_cast<std::uint32_t>(fill->BufferLength) / 4 : 0};
 }
 
+std::uint64_t CountMatrix(DeviceLibrary& device, const std::u16string& text) {
+  MatrixBarcode barcode;
+  barcode.text = text;
+  barcode.HatchingType = kPoints;
+  device.Machine().ResetCounts();
+  const std::uint32_t fill = device.CallGenerateDataMatrixBarcode(barcode);
+  const std::uint64_t instructions = device.Machine().Instructions();
+  device.TakeFill(fill);
+  return fill == 0 ? 0 : instructions;
+}
+
 std::vector<InstructionCount> CountInstructions(DeviceLibrary& device) {
   std::vector<InstructionCount> counts;
   device.InitBarcode();
@@ -93,6 +120,7 @@ std::vector<InstructionCount> CountInstructions(DeviceLibrary& device) {
     counts.push_back({"stroke/" + std::to_string(pattern), CostOfAStroke(device, pattern)});
   }
   counts.push_back({"stroke/" + std::to_string(kPoints), CostOfAPoint(device)});
+  if (device.Exports("GenerateDataMatrixBarcode")) AddMatrices(device, counts);
   return counts;
 }
 

@@ -18,11 +18,14 @@ struct InstructionCount {
 
 // "string/<type>": GenerateBarcodeString for the type's typical text.
 // "stroke/<pattern>": what one more stroke costs, from fills of two sizes; pattern 6: one point.
-// "fill/<type>": GenerateLinearBarcode, typical text, pattern 0 with ten lines.
+// "matrix/<text>": GenerateDataMatrixBarcode for the smallest square that holds the text,
+// pattern 6. "fill/<type>": GenerateLinearBarcode, typical text, pattern 0 with ten lines.
 std::vector<InstructionCount> CountInstructions(DeviceLibrary& device);
 
 // Instructions of GenerateBarcodeString, or 0 when the text is refused.
 std::uint64_t CountString(DeviceLibrary& device, std::int32_t type, const std::string& text);
+
+std::uint64_t CountMatrix(DeviceLibrary& device, const std::u16string& text);
 
 // A fill of the Code 39 symbol "A" in the pattern, about `lines` strokes high (or wide) each bar.
 struct FillCount {

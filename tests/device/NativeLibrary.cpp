@@ -7,6 +7,10 @@
 #include "api/BarcodeSettings.h"
 #include "barhatch.h"
 
+// Null in a library without Data Matrix.
+extern "C" __attribute__((weak)) FillBufferInfo* GenerateDataMatrixBarcode(
+    const DataMatrixBarcodeInfo* info);
+
 namespace barhatch::device {
 
 namespace {
@@ -82,6 +86,22 @@ BarcodeLibrary::MaybeFill NativeLibrary::GenerateLinearBarcode(const LinearBarco
   info.QuietZoneSize = barcode.QuietZoneSize;
   info.BorderWidth = barcode.BorderWidth;
   return Take(::GenerateLinearBarcode(&info));
+}
+
+BarcodeLibrary::MaybeFill NativeLibrary::GenerateDataMatrixBarcode(const MatrixBarcode& barcode) {
+  DataMatrixBarcodeInfo info{};
+  info.height = barcode.height;
+  info.format = barcode.format;
+  info.DataString = Pointer(barcode.text);
+  info.HatchingType = barcode.HatchingType;
+  info.LineGap = barcode.LineGap;
+  info.InvertImage = barcode.InvertImage;
+  info.MatrixSize = barcode.MatrixSize;
+  info.IsExpanding = barcode.IsExpanding;
+  info.QuietZone = barcode.QuietZone;
+  info.QuietZoneSize = barcode.QuietZoneSize;
+  info.BorderWidth = barcode.BorderWidth;
+  return Take(::GenerateDataMatrixBarcode(&info));
 }
 
 std::vector<std::uint8_t> NativeLibrary::Settings() {

@@ -29,6 +29,7 @@ class NativeLibrary : public BarcodeLibrary {
   MaybeFill HatchBarcodeString(const std::string& moduleString) override;
   MaybeFill GenerateVectorizedBarcode() override;
   MaybeFill GenerateLinearBarcode(const LinearBarcode& barcode) override;
+  MaybeFill GenerateDataMatrixBarcode(const MatrixBarcode& barcode) override;
   std::vector<std::uint8_t> Settings() override;
 };
 
