@@ -78,6 +78,9 @@ namespace Barhatch
         [DllImport("barhatch.dll")] public static extern IntPtr GenerateLinearBarcode(ref LinearBarcodeInfo info);
         [DllImport("barhatch.dll")] public static extern void FreeBarcodeData(IntPtr fill);
         [DllImport("barhatch.dll")] public static extern IntPtr TestStruct();
+        [DllImport("barhatch.dll")] public static extern IntPtr GenerateDataMatrixBarcode(ref DataMatrixBarcodeInfo info);
+        [DllImport("barhatch.dll")] public static extern void Free2DBarcodeStringResult(IntPtr grid);
+        [DllImport("barhatch.dll")] public static extern void FreePdf417BarcodeStringResult(IntPtr grid);
 
         // The strokes of a fill buffer as doubles; the buffer goes back to the library. Null stays null.
         public static double[] TakeFill(IntPtr fill)

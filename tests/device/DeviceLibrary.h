@@ -93,7 +93,6 @@ class DeviceLibrary : public BarcodeLibrary {
   // Calls an export by its exact name.
   std::uint32_t Call(const std::string& name, const Words& arguments);
   std::uint32_t CallEntryPoint(std::uint32_t reason);
-  bool Exports(const std::string& name) const { return image_.exports.count(name) != 0; }
 
   // Host memory on the device's heap, exactly as long as what it holds.
   std::uint32_t Place(const void* bytes, std::size_t size);

@@ -11,6 +11,7 @@
 namespace barhatch::device {
 namespace {
 
+constexpr std::uint32_t kDeepestStackOfAMatrix = 16 * 1024;
 constexpr std::uint32_t kDeepestStack = 8 * 1024;  // documented in docs/porting.md
 
 LinearBarcode Typical(std::int32_t type, std::int32_t pattern) {
@@ -84,6 +85,27 @@ TEST(DeviceMemory, ACallTakesLittleStack) {
     EXPECT_LE(device.Machine().DeepestStack(), kDeepestStack) << KindOf(type).name;
   }
   EXPECT_GT(deepest, 0u);
+}
+
+TEST(DeviceMemory, AMatrixTakesLittleStackAndHeapBesideItsResult) {
+  DeviceLibrary device;
+  device.InitBarcode();
+  for (const std::size_t length : {10U, 300U, 1500U, 3116U}) {
+    MatrixBarcode barcode;
+    barcode.text = std::u16string(length, u'7');
+    device.Machine().ResetCounts();
+    device.Heap().StartWatching();
+    const auto fill = device.GenerateDataMatrixBarcode(barcode);
+    ASSERT_TRUE(fill) << length;
+    const std::uint32_t hosts = 56 + 2 * static_cast<std::uint32_t>(length + 1);
+    const std::uint32_t result = 32 + 8 * static_cast<std::uint32_t>(fill->BufferLength);
+    const std::uint32_t beside = device.Heap().PeakBytes() - result - hosts;
+    const std::uint32_t stack = device.Machine().DeepestStack();
+    std::printf("%4zu digits: %5u bytes of stack, %6u of heap beside the result of %u\n", length,
+                stack, beside, result);
+    EXPECT_LE(stack, kDeepestStackOfAMatrix) << length;
+    EXPECT_LE(beside, 64u * 1024) << length;
+  }
 }
 
 // Beside the fill buffer that the host gets, a call needs the module string and the rectangles.

@@ -68,6 +68,19 @@ TEST(InstructionBudget, AFillGrowsNoFasterThanItsStrokes) {
   }
 }
 
+TEST(InstructionBudget, AMatrixGrowsNoFasterThanItsText) {
+  DeviceLibrary device;
+  device.InitBarcode();
+  for (const char16_t unit : {u'7', u'A', u'a', u'\u00e4', u'?'}) {
+    const std::uint64_t quarter = CountMatrix(device, std::u16string(180, unit));
+    const std::uint64_t whole = CountMatrix(device, std::u16string(720, unit));
+    ASSERT_GT(quarter, 0u);
+    ASSERT_GT(whole, 0u);
+    EXPECT_LE(static_cast<double>(whole), 4.2 * static_cast<double>(quarter))
+        << static_cast<int>(unit);
+  }
+}
+
 TEST(InstructionBudget, AModuleStringGrowsNoFasterThanItsText) {
   DeviceLibrary device;
   device.InitBarcode();

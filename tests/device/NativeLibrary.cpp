@@ -7,10 +7,6 @@
 #include "api/BarcodeSettings.h"
 #include "barhatch.h"
 
-// Null in a library without Data Matrix.
-extern "C" __attribute__((weak)) FillBufferInfo* GenerateDataMatrixBarcode(
-    const DataMatrixBarcodeInfo* info);
-
 namespace barhatch::device {
 
 namespace {
