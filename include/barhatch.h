@@ -165,8 +165,8 @@ BARHATCH_API char* GenerateBarcodeString(void);
  * The whole string, quiet zones included, is scaled to the width setting.
  * Reads: width, height, PrintRatio, InvertImage, HatchingType, LineGap   Writes: FillHeight, FillWidth
  * Returns: a fill buffer, released by FreeBarcodeData
- * Fails: null for a null or empty string, a pattern that fills nothing, a line gap that is zero, negative, no number or
- *        so small that the strokes cannot be counted in 32 bits, no memory */
+ * Fails: null for a null or empty string, a pattern that fills nothing, a line gap that is zero, negative, infinite, no
+ *        number or so small that the strokes cannot be counted in 32 bits, no memory */
 BARHATCH_API FillBufferInfo* HatchBarcodeString(const char* moduleString);
 
 /* GenerateVectorizedBarcode: GenerateBarcodeString and HatchBarcodeString in one call, for the current settings.

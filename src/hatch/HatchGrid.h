@@ -29,7 +29,7 @@ double Snap(double v, double gap);
 // too few, and at most one more than the true number but for fills of many millions of strokes.
 // kUncountable when start is no number, or when the strokes or the distance of an end from the
 // origin exceed 32 bits of gaps; every position that a countable range visits therefore really
-// advances. REQUIRES: gap > 0.
+// advances. REQUIRES: gap > 0 and finite.
 DoubleCount MostStrokes(double start, double end, double gap);
 
 }  // namespace barhatch

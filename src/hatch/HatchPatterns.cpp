@@ -1,5 +1,7 @@
 #include "hatch/HatchPatterns.h"
 
+#include <limits>
+
 #include "hatch/LinePatterns.h"
 #include "hatch/SpiralPattern.h"
 
@@ -16,8 +18,10 @@ enum HatchingType : std::int32_t {
   kCentres = 6,
 };
 
+// Multiples of an infinite gap are no numbers, and a spiral between such bounds would never end.
 bool HasUsableGap(const HatchStyle& style) {
-  return style.lineGap > 0.0 || style.hatchingType == kCentres;
+  const bool isPitch = style.lineGap > 0.0 && style.lineGap <= std::numeric_limits<double>::max();
+  return isPitch || style.hatchingType == kCentres;
 }
 
 }  // namespace

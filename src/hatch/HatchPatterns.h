@@ -12,7 +12,7 @@ namespace barhatch {
 // What the host chose with SetHatchPattern.
 struct HatchStyle {
   std::int32_t hatchingType;  // 0..3, 5, 6; every other value fills nothing
-  double lineGap;  // host's unit; hatching types 0 to 5 fill nothing unless it is above zero
+  double lineGap;  // host's unit; types 0 to 5 fill nothing unless it is finite and above zero
 };
 
 // The most doubles that filling the rectangles takes: 0 when nothing will be filled, kUncountable

@@ -17,8 +17,8 @@ enum class LineDirection { kHorizontal, kVertical };
 enum class LineOrder { kSameWay, kAlternating };
 
 // Hatching type 0: scan lines from left to right across all rectangles before the next line starts.
-// The y range is that of the first rectangle; the others are taken to have the same. REQUIRES: gap
-// > 0, here and below.
+// The y range is that of the first rectangle; the others are taken to have the same.
+// REQUIRES: gap > 0 and finite, here and below.
 DoubleCount MostScanLineDoubles(const RectList& rects, double gap);
 void FillWithScanLines(const RectList& rects, double gap, CoordinateList& coordinates);
 

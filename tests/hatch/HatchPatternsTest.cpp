@@ -138,7 +138,8 @@ TEST(Centres, GiveExactlyTwoDoublesForEachRectangle) {
 }
 
 TEST(Centres, NeedNoLineGap) {
-  for (double gap : {0.0, -1.0, kNoNumber}) EXPECT_EQ(Fill({{0, 0, 1, 4}}, 6, gap).size(), 2u);
+  for (double gap : {0.0, -1.0, kNoNumber, kInfinity})
+    EXPECT_EQ(Fill({{0, 0, 1, 4}}, 6, gap).size(), 2u);
 }
 
 TEST(HatchPatterns, FourAndUnknownTypesFillNothing) {
@@ -151,7 +152,7 @@ TEST(HatchPatterns, FourAndUnknownTypesFillNothing) {
 
 TEST(HatchPatterns, UnusableGapsFillNothing) {
   for (int type : {0, 1, 2, 3, 5}) {
-    for (double gap : {0.0, -0.0, -0.1, kNoNumber, -kInfinity}) {
+    for (double gap : {0.0, -0.0, -0.1, kNoNumber, kInfinity, -kInfinity}) {
       EXPECT_TRUE(Fill({{0, 0, 1, 1}}, type, gap).empty()) << type << ' ' << gap;
       EXPECT_EQ(Most({{0, 0, 1, 1}}, type, gap), 0) << type << ' ' << gap;
     }

@@ -108,6 +108,9 @@ TEST_F(HatcherTest, SettingsOfNoNumberEnd) {
       SetHatchPattern(0.01, type);
       SetPrintRatio(value);
       Vectorize("AaBbA");
+      InitBarcode();
+      SetHatchPattern(value, type);
+      Vectorize("AaBbA");
     }
   }
 }
