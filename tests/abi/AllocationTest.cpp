@@ -3,6 +3,7 @@
 // form it was allocated in. Runs against the shared library, as a host does.
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <cstring>
 #include <functional>
 #include <string>
@@ -141,6 +142,24 @@ TEST_F(Allocation, ADataMatrixTakesFourAllocationsForItsResultAndAtMostThreeMore
     EXPECT_LE(probe.Allocations(), 4u + 3u);
     FreeBarcodeData(fill);
     EXPECT_EQ(probe.LiveBlocks(), 0u);
+  }
+}
+
+TEST_F(Allocation, AFillThatGetsNoMemoryEndsBeforeItsFirstStroke) {
+  SetBarcodeSize(2e8, 2e8);  // 200 million strokes and more: a second to walk through, or several
+  for (int pattern : {0, 1, 2, 3, 5}) {
+    SetHatchPattern(1.0, pattern);
+    const auto start = std::chrono::steady_clock::now();
+    FillBufferInfo* fill = nullptr;
+    std::size_t allocations = 0;
+    {
+      AllocationProbe probe(2);  // the rectangles are there, the coordinates are not
+      fill = HatchBarcodeString("A");
+      allocations = probe.Allocations();
+    }
+    EXPECT_EQ(fill, nullptr) << pattern;
+    EXPECT_LE(allocations, 2u) << pattern;
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(100)) << pattern;
   }
 }
 
