@@ -33,6 +33,8 @@ class TextLimit : public Settings {};
 // by hand.
 TEST(SettingsBeforeInit, AllZeroSettingsGenerateByThem) {
   std::memset(static_cast<void*>(&CurrentSettings()), 0, sizeof(BarcodeSettings));
+  EXPECT_EQ(GenerateBarcodeString(), nullptr);  // type 0, Codabar, has no symbol without text
+  EXPECT_EQ(GenerateVectorizedBarcode(), nullptr);
   SetBarcodeType(1);
   EXPECT_EQ(Take(GenerateBarcodeString()), "AbAaBaBaAaAbAaBaBaA");  // the empty text
   EXPECT_EQ(GenerateVectorizedBarcode(),

@@ -44,22 +44,26 @@ TEST(SymbologyFactory, GivesNullOutsideTheTable) {
 class QuietZones : public test::SettingsFixture {};
 
 TEST_F(QuietZones, WithoutOneTheStringStartsAndEndsWithABar) {
-  SetBarcodeType(1);
-  const auto letters = test::Take(GenerateBarcodeString());
-  EXPECT_EQ(letters->front(), 'A');
-  EXPECT_EQ(letters->back(), 'A');
+  for (std::int32_t type : {1, 5, 6, 7, 8}) {  // Code 39 and Code 128
+    SetBarcodeType(type);
+    const auto letters = test::Take(GenerateBarcodeString());
+    EXPECT_EQ(letters->front(), 'A') << type;
+    EXPECT_EQ(letters->back(), 'A') << type;
+  }
 }
 
-TEST_F(QuietZones, OfCode39AreExactlyTenLightModules) {
+TEST_F(QuietZones, OfCode39AndCode128AreExactlyTenLightModules) {
   const test::Text16 text = test::Widen("123");
   LinearBarcodeInfo info{};
-  info.type = 1;
   info.DataString = text.c_str();
   info.QuietZone = 1;
-  EXPECT_EQ(GenerateLinearBarcode(&info), nullptr);  // no size, but the settings are in force
-  const auto letters = test::Take(GenerateBarcodeString());
-  EXPECT_EQ(letters->find_first_not_of('a'), 10u);
-  EXPECT_EQ(letters->find_last_not_of('a'), letters->size() - 11);
+  for (std::int32_t type : {1, 5, 6, 7, 8}) {
+    info.type = type;
+    EXPECT_EQ(GenerateLinearBarcode(&info), nullptr);  // no size, but the settings are in force
+    const auto letters = test::Take(GenerateBarcodeString());
+    EXPECT_EQ(letters->find_first_not_of('a'), 10u) << type;
+    EXPECT_EQ(letters->find_last_not_of('a'), letters->size() - 11) << type;
+  }
 }
 
 }  // namespace
