@@ -2,6 +2,7 @@
 // the head would mark. Exit codes: 0 done, 1 the library refused or a file could not be written, 2
 // bad arguments.
 #include <CLI/CLI.hpp>
+#include <cmath>
 #include <cstdio>
 #include <exception>
 #include <optional>
@@ -159,7 +160,10 @@ std::optional<preview::Picture> DrawPicture(const FillBufferInfo& fill, const Op
   const double across = view.width + 2 * view.margin;
   const double pixelsPerUnit =
       options.pixelsPerUnit > 0.0 ? options.pixelsPerUnit : 1600.0 / across;
-  if (across * (view.height + 2 * view.margin) * pixelsPerUnit * pixelsPerUnit > kLargestPicture) {
+  const double columns = std::ceil(across * pixelsPerUnit);
+  const double rows = std::ceil((view.height + 2 * view.margin) * pixelsPerUnit);
+  if (!(columns * rows <= kLargestPicture)) {
+    std::fprintf(stderr, "barhatch: %g x %g pixels are too many for a picture\n", columns, rows);
     return std::nullopt;
   }
   return preview::Draw(preview::MarksOf(fill, view), view, pixelsPerUnit);

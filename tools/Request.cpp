@@ -1,5 +1,7 @@
 #include "Request.h"
 
+#include <cstdio>
+
 #include "LinearTypes.h"
 
 namespace preview {
@@ -115,8 +117,10 @@ std::string WhyRefused(const Request& request) {
   if (!isMatrix && !HasModuleString(request)) {
     return NameOf(request) + " cannot encode the text \"" + request.text + '"';
   }
-  return "pattern " + std::to_string(request.pattern) + " with a line gap of " +
-         std::to_string(request.gap) + " fills nothing, or more than a fill buffer holds";
+  char gap[32];
+  std::snprintf(gap, sizeof gap, "%g", request.gap);
+  return "pattern " + std::to_string(request.pattern) + " with a line gap of " + gap +
+         " fills nothing, or more than a fill buffer holds";
 }
 
 }  // namespace preview
