@@ -77,7 +77,8 @@ bool ThirdsSum::ExceedsExactSum(std::size_t position, int start) {
     sum = AddBetween(sum, done, next);
     done = next;
   }
-  return sum > (3 * start + done.tally.Thirds()) / 3;
+  const int exactSum = (3 * start + done.tally.Thirds()) / 3;
+  return sum > exactSum;
 }
 
 }  // namespace barhatch
