@@ -136,6 +136,47 @@ TEST_F(DataMatrixExports, ARefusedSymbolIsNullAndLeavesTheSettingsInForce) {
   EXPECT_TRUE(Generate());
 }
 
+struct Refusal {
+  int codewords;  // of two digits each
+  int format;
+  int matrixSize;
+  int isExpanding;
+};
+
+constexpr Refusal kRefusals[] = {
+    {1, 0, 0x0000, 0},     // the smallest square is larger than 0 x 0
+    {4, 0, 0x0A0A, 0},     // 12 x 12 is larger
+    {3, 0, 0x0B0B, 1},     // 11 x 11 is looked up
+    {1, 0, 0xFFFF, 1},     // as is 255 x 255
+    {6, 0, 0x0C1A, 0},     // 8 x 32 comes first and is wider
+    {10, 0, 0x0C1A, 0},    //
+    {16, 0, 0x0820, 1},    // looked up, and holds 10
+    {50, 0, 0x0812, 0},    // no rectangle holds them, and only 1 makes a square
+    {50, 0, 0x0812, 2},    //
+    {50, 0, 0x1030, 0},    //
+    {50, 0, 0x1030, 1},    // 32 x 32 is narrower than 48 columns
+    {1558, 2, 0x0000, 1},  // with the header 1559 codewords
+};
+
+TEST_F(DataMatrixExports, EveryRefusalIsNullAndLeavesTheRecordInForce) {
+  for (const Refusal& refusal : kRefusals) {
+    SCOPED_TRACE(testing::Message() << refusal.codewords << " codewords, " << refusal.matrixSize
+                                    << ", expanding " << refusal.isExpanding);
+    Use(std::string(static_cast<std::size_t>(2 * refusal.codewords), '7'));
+    info_.format = refusal.format;
+    info_.MatrixSize = refusal.matrixSize;
+    info_.IsExpanding = static_cast<uint8_t>(refusal.isExpanding);
+    CurrentSettings().FillHeight = CurrentSettings().FillWidth = -77.0;
+    EXPECT_FALSE(Generate());
+    const BarcodeSettings& s = CurrentSettings();
+    EXPECT_EQ(std::u16string(s.DataString).size(), text_.size());
+    EXPECT_EQ(s.MatrixSize, refusal.matrixSize);
+    EXPECT_EQ(s.IsExpanding, refusal.isExpanding);
+    EXPECT_EQ(s.FillHeight, -77.0);  // nothing was hatched
+    EXPECT_EQ(s.FillWidth, -77.0);
+  }
+}
+
 TEST_F(DataMatrixExports, ASmallSymbolAfterTheLargestShowsNoLeftovers) {
   const OwnedFill before = Generate();
   Use(std::string(3116, '7'));
@@ -239,6 +280,18 @@ TEST_F(DataMatrixTrace, ARefusedCallIsTracedAsWell) {
   Use(digits);
   EXPECT_FALSE(Generate());
   EXPECT_EQ(file_.Text(), RecordStatements(digits));
+}
+
+TEST_F(DataMatrixTrace, TheEmptyGridOfARefusedSymbolIsReleasedAndTraced) {
+  info_.MatrixSize = 0x0812;
+  info_.format = 2;  // with the header 1559 codewords
+  info_.QuietZoneSize = 5;
+  info_.BorderWidth = -6;
+  const std::string digits(3116, '7');
+  Use(digits);
+  EXPECT_FALSE(Generate());
+  EXPECT_EQ(file_.Text(),
+            RecordStatements(digits) + GridStatements(0, 0, "Free2DBarcodeStringResult"));
 }
 
 TEST_F(DataMatrixTrace, ReleaseFunctionsTraceGridsButNotNull) {

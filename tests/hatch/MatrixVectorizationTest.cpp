@@ -17,20 +17,19 @@ using test::Bits;
 using test::Doubles;
 using test::OwnedFill;
 
-class MatrixVectorization : public test::SettingsFixture {
- protected:
-  // rows of '#' (dark) and '.' (light), top row first
-  static OwnedFill Vectorize(const std::vector<std::string>& rows) {
-    std::string letters;
-    for (const std::string& row : rows) {
-      for (char module : row) letters += module == '#' ? 'A' : 'a';
-    }
-    const TwoDStringResult matrix{static_cast<int32_t>(rows.size()),
-                                  static_cast<int32_t>(rows[0].size()), letters.data()};
-    Hatcher hatcher;
-    return OwnedFill(hatcher.VectorizeMatrix(matrix));
+class MatrixVectorization : public test::SettingsFixture {};
+
+// rows of '#' (dark) and '.' (light), top row first
+OwnedFill Vectorize(const std::vector<std::string>& rows) {
+  std::string letters;
+  for (const std::string& row : rows) {
+    for (char module : row) letters += module == '#' ? 'A' : 'a';
   }
-};
+  const TwoDStringResult matrix{static_cast<int32_t>(rows.size()),
+                                static_cast<int32_t>(rows[0].size()), letters.data()};
+  Hatcher hatcher;
+  return OwnedFill(hatcher.VectorizeMatrix(matrix));
+}
 
 const std::vector<std::string> kDiagonal = {"#.", ".#"};
 
@@ -54,7 +53,10 @@ TEST_F(MatrixVectorization, InvertedTheLightModulesAreFilled) {
 TEST_F(MatrixVectorization, TheWidthHasNoEffect) {
   const OwnedFill before = Vectorize(kDiagonal);
   SetBarcodeSize(77.0, 0.5);
-  EXPECT_EQ(Doubles(*Vectorize(kDiagonal)), Doubles(*before));
+  const OwnedFill after = Vectorize(kDiagonal);
+  EXPECT_EQ(Doubles(*after), Doubles(*before));
+  EXPECT_EQ(after->FillHeight, before->FillHeight);
+  EXPECT_EQ(after->FillWidth, before->FillWidth);
 }
 
 TEST_F(MatrixVectorization, AlternationStartsForwardOnEveryRow) {
@@ -80,21 +82,31 @@ TEST_F(MatrixVectorization, RectanglesOfModulesAreTwoCellsSmallerInBothExtents) 
   EXPECT_EQ(fill->FillWidth, 4.0);
 }
 
+// Null, with the extents of a matrix of height 4 set.
+void ExpectNothingFilled(const std::vector<std::string>& rows) {
+  CurrentSettings().FillHeight = CurrentSettings().FillWidth = -77.0;
+  EXPECT_FALSE(Vectorize(rows));
+  const double cell = 4.0 / static_cast<double>(rows.size());
+  EXPECT_EQ(CurrentSettings().FillHeight, 4.0 - 2.0 * cell);
+  EXPECT_EQ(CurrentSettings().FillWidth, cell * static_cast<double>(rows[0].size()) - 2.0 * cell);
+}
+
 TEST_F(MatrixVectorization, NothingToFillIsNullAndSetsTheExtents) {
   SetBarcodeHeight(4);
   SetHatchPattern(0.5, 0);
-  EXPECT_FALSE(Vectorize({"..", ".."}));
-  EXPECT_EQ(CurrentSettings().FillHeight, 0.0);
+  ExpectNothingFilled({".....", ".....", ".....", "....."});
   SetImageInversionMode(1);
-  EXPECT_FALSE(Vectorize({"##", "##"}));
+  ExpectNothingFilled({"###", "###"});
   SetImageInversionMode(0);
   for (int type : {4, 7, -1}) {
+    SCOPED_TRACE(type);
     SetHatchPattern(0.5, type);
-    EXPECT_FALSE(Vectorize(kDiagonal)) << type;
+    ExpectNothingFilled(kDiagonal);
   }
   for (double gap : {0.0, -1.0, 1e-12}) {
+    SCOPED_TRACE(gap);
     SetHatchPattern(gap, 0);
-    EXPECT_FALSE(Vectorize(kDiagonal)) << gap;
+    ExpectNothingFilled({"#.#", ".#."});
   }
 }
 
