@@ -11,7 +11,6 @@
 namespace barhatch::device {
 namespace {
 
-constexpr std::uint32_t kDeepestStackOfAMatrix = 16 * 1024;
 constexpr std::uint32_t kDeepestStack = 8 * 1024;  // documented in docs/porting.md
 
 LinearBarcode Typical(std::int32_t type, std::int32_t pattern) {
@@ -103,7 +102,7 @@ TEST(DeviceMemory, AMatrixTakesLittleStackAndHeapBesideItsResult) {
     const std::uint32_t stack = device.Machine().DeepestStack();
     std::printf("%4zu digits: %5u bytes of stack, %6u of heap beside the result of %u\n", length,
                 stack, beside, result);
-    EXPECT_LE(stack, kDeepestStackOfAMatrix) << length;
+    EXPECT_LE(stack, kDeepestStack) << length;
     EXPECT_LE(beside, 64u * 1024) << length;
   }
 }
