@@ -197,5 +197,99 @@ TEST_F(Allocation, AFillTakesThreeAllocationsAndLittleMoreThanItsOwnSize) {
   EXPECT_EQ(probe.LiveBlocks(), 0u);
 }
 
+// What hosts have always been given, type by type, however short the text.
+struct UsualString {
+  std::int32_t type;
+  const char* text;
+  std::size_t bytes;
+};
+
+constexpr UsualString kUsualStrings[] = {
+    {0, "1", 24936},                   // Codabar
+    {1, "1", 31170},                   // Code 39
+    {2, "1", 31170},                   // Code 93
+    {3, "123456789012", 28053},        // EAN-13
+    {4, "1", 37424},                   // MSI
+    {5, "1", 40521},                   // Code 128, four policies
+    {6, "1", 40521},                   //
+    {7, "1", 40521},                   //
+    {8, "1", 40521},                   //
+    {9, "12345678901", 18722},         // UPC-A
+    {10, "0123456", 21839},            // UPC-E
+    {11, "1", 24936},                  // Code 11
+    {12, "1234567", 28053},            // EAN-8
+    {13, "1234567890112", 21839},      // UPC-A, add-on of two digits
+    {14, "1234567890112345", 21859},   // of five
+    {15, "12345678901212", 28093},     // EAN-13
+    {16, "12345678901212345", 28093},  //
+    {17, "123456712", 28073},          // EAN-8
+    {18, "123456712345", 28093},       //
+    {19, "012345612", 21839},          // UPC-E
+    {20, "012345612345", 21859},       //
+    {21, "1", 24936},                  // Interleaved 2 of 5
+    {22, "1", 31170},                  // Code 93, full ASCII
+};
+
+// The bytes of the module string of the current settings, and its letters with the NUL.
+struct StringSize {
+  std::size_t allocated;
+  std::size_t used;
+};
+
+StringSize SizeOfString(std::int32_t type, const Text16& text) {
+  SetBarcodeType(type);
+  SetDataString(text.c_str());
+  AllocationProbe probe;
+  char* const letters = GenerateBarcodeString();
+  if (letters == nullptr) return {0, 0};
+  const StringSize size = {probe.LiveBytes(), std::strlen(letters) + 1};
+  delete[] letters;
+  return size;
+}
+
+// Quiet zones can be asked for in a record alone.
+void AskForQuietZone(const Text16& text) {
+  LinearBarcodeInfo info{};
+  info.height = 1.0;
+  info.width = 3.0;
+  info.type = 1;
+  info.DataString = text.c_str();
+  info.HatchingType = 6;
+  info.PrintRatio = 3.0;
+  info.QuietZone = 1;
+  FreeBarcodeData(GenerateLinearBarcode(&info));
+}
+
+TEST_F(Allocation, AShortModuleStringTakesTheUsualBytesOfItsType) {
+  std::int32_t type = 0;
+  for (const UsualString& usual : kUsualStrings) {
+    ASSERT_EQ(usual.type, type++);
+    const StringSize size = SizeOfString(usual.type, Widen(usual.text));
+    EXPECT_EQ(size.allocated, usual.bytes) << "type " << usual.type;
+    EXPECT_LT(size.used, usual.bytes) << "type " << usual.type;
+  }
+  EXPECT_EQ(type, 23);
+}
+
+TEST_F(Allocation, AModuleStringBeyondTheUsualBytesTakesItsLettersAndTheNul) {
+  AskForQuietZone(text_);
+  const struct {
+    std::int32_t type;
+    std::string text;
+    std::size_t bytes;
+  } longest[] = {
+      // quiet zones, letters of the characters, NUL
+      {0, std::string(3116, '1'), 20 + 8 * 3116 - 1 + 1},
+      {1, std::string(3114, '1'), 20 + 10 * 3116 - 1 + 1},
+      {4, std::string(3119, '1'), 20 + 3 + 12 * 3120 + 4 + 1},
+      {22, std::string(3119, 'a'), 20 + 9 * (2 * 3119 + 4) + 1 + 1},
+  };
+  for (const auto& row : longest) {
+    const StringSize size = SizeOfString(row.type, Widen(row.text));
+    EXPECT_EQ(size.allocated, row.bytes) << "type " << row.type;
+    EXPECT_EQ(size.used, row.bytes) << "type " << row.type;
+  }
+}
+
 }  // namespace
 }  // namespace barhatch

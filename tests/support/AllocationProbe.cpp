@@ -79,6 +79,7 @@ AllocationProbe::~AllocationProbe() { watching = false; }
 
 std::size_t AllocationProbe::Allocations() const { return attempted; }
 std::size_t AllocationProbe::LiveBlocks() const { return liveBlocks; }
+std::size_t AllocationProbe::LiveBytes() const { return liveBytes; }
 std::size_t AllocationProbe::PeakBytes() const { return peakBytes; }
 
 }  // namespace barhatch::test

@@ -19,6 +19,7 @@ class AllocationProbe {
 
   std::size_t Allocations() const;  // attempted while watching
   std::size_t LiveBlocks() const;   // allocated while watching and not yet released
+  std::size_t LiveBytes() const;    // the bytes of the live blocks
   std::size_t PeakBytes() const;    // most bytes that lived at once
 };
 
