@@ -45,6 +45,15 @@ constexpr bool ThreeOfNineExcept(char deviating) {
   }
   return true;
 }
+
+// Digits and letters are found by their place in the table, the signs from the 36th row on by name.
+constexpr bool DigitsAndLettersStandInOrder() {
+  for (int i = 0; i < 36; ++i) {
+    if (kCode39Characters[i].character != (i < 10 ? '0' + i : 'A' + i - 10)) return false;
+  }
+  return true;
+}
+static_assert(DigitsAndLettersStandInOrder(), "0 to 9, then A to Z");
 static_assert(kCode39CharacterCount == 44, "digits, letters and eight further characters");
 static_assert(ThreeOfNineExcept('W'), "every Code 39 character has three wide elements of nine");
 

@@ -122,6 +122,53 @@ TEST(Code39Table, BarsRepeatEveryTenCharacters) {
   }
 }
 
+// How the published set is made: a character's bars are one of ten two-of-five codes, the same in
+// every group of ten, and its group is told by the place of the one wide space. The four signs
+// without wide bars have one narrow space instead.
+std::string PublishedElements(char character) {
+  const std::string bars[] = {"10001", "01001", "11000", "00101", "10100",
+                              "01100", "00011", "10010", "01010", "00110"};
+  const struct {
+    std::string characters;
+    std::string spaces;
+  } groups[] = {{"1234567890", "0100"},
+                {"ABCDEFGHIJ", "0010"},
+                {"KLMNOPQRST", "0001"},
+                {"UVWXYZ-. *", "1000"}};
+  const std::string signs = "$/+%";
+  const std::string spacesOfSigns[] = {"1110", "1101", "1011", "0111"};
+  const auto weave = [](const std::string& five, const std::string& four) {
+    std::string nine;
+    for (std::size_t i = 0; i < 4; ++i) nine += {five[i], four[i]};
+    return nine + five[4];
+  };
+  const auto sign = signs.find(character);
+  if (sign != std::string::npos) return weave("00000", spacesOfSigns[sign]);
+  for (const auto& group : groups) {
+    const auto place = group.characters.find(character);
+    if (place != std::string::npos) return weave(bars[place], group.spaces);
+  }
+  return "";
+}
+
+TEST(Code39Table, EveryRowIsMadeByThePublishedRuleButTheTwoDeviatingOnes) {
+  const std::string rows = "0123456789ABCDEFGHIJKLMNOPQRSTUVWXYZ*-$% ./+";
+  for (int index = 0; index < 44; ++index) {
+    const char character = rows[static_cast<std::size_t>(index)];
+    const std::string published = PublishedElements(character);
+    if (character == 'W' || character == '/') {
+      EXPECT_NE(Code39TableElements(index), published) << character;
+    } else {
+      EXPECT_EQ(Code39TableElements(index), published) << character;
+    }
+  }
+}
+
+TEST(Code39, DigitsLettersToDAndSignsAreWrittenAsPublished) {
+  for (const char character : std::string("0123456789ABCD*-$% .+"))
+    EXPECT_EQ(Code39Elements(character), PublishedElements(character)) << character;
+}
+
 TEST(Code39Deviations, D391TableRowOfWIsNotThePublishedOne) {
   EXPECT_STREQ(Code39TableElements(32), "011000000");  // 0x0C0, published 0x1C0
 }
