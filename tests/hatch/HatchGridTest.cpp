@@ -95,6 +95,14 @@ TEST(MostStrokes, CannotCountWhatLeavesThirtyTwoBits) {
   EXPECT_EQ(MostStrokes(-1.7e308, 1.7e308, 1e300), kUncountable);
 }
 
+TEST(MostStrokes, CountsUpToThirtyTwoBitsOfGaps) {
+  EXPECT_GE(MostStrokes(0.0, 4294967295.0, 1.0), 4294967295);
+  EXPECT_EQ(MostStrokes(0.0, 4294967296.0, 1.0), kUncountable);
+  EXPECT_GE(MostStrokes(4294967294.0, 4294967295.0, 1.0), 1);
+  EXPECT_EQ(MostStrokes(4294967295.0, 4294967296.0, 1.0), kUncountable);
+  EXPECT_EQ(MostStrokes(-4294967296.0, -4294967295.0, 1.0), kUncountable);
+}
+
 TEST(MostStrokes, NothingLiesInAnEmptyRange) {
   EXPECT_EQ(MostStrokes(1.0, 1.0, 0.1), 0);
   EXPECT_EQ(MostStrokes(1.0, 0.5, 0.1), 0);

@@ -101,28 +101,42 @@ TEST(Spiral, MovesLowerBoundsOneGapInsideUnlessTheyAreZero) {
   EXPECT_EQ(fill[6], 2.0);   // right
 }
 
-TEST(Spiral, DividesForTheLeftBoundAndMultipliesForTheOthers) {
-  // 2.5 gaps by division and one bit less by multiplication with the reciprocal, so that the bounds
-  // of the same coordinate round to different lines.
-  double gap = 0.0, edge = 0.0;
-  for (int k = 1; k < 20000 && edge == 0.0; ++k) {
-    const double candidate = k / 1000.0;
+struct EdgeAndGap {
+  double edge;
+  double gap;
+};
+
+// A half number of gaps by division and one bit less by multiplication with the reciprocal, so that
+// the bounds of the same coordinate round to different lines. Edge 0 when there is no such pair.
+EdgeAndGap EdgeThatDependsOnTheOperation() {
+  const auto whole = [](double v) { return static_cast<int>(v); };
+  for (int k = 1; k < 20000; ++k) {
+    const double gap = k / 1000.0;
     for (int half = 1; half < 60; half += 2) {
-      const double x = half * candidate / 2;
-      const auto whole = [](double v) { return static_cast<int>(v); };
-      if (whole(x / candidate + 0.5) != whole(x * (1 / candidate) + 0.5)) {
-        gap = candidate;
-        edge = x;
-        break;
-      }
+      const double edge = half * gap / 2;
+      if (whole(edge / gap + 0.5) != whole(edge * (1 / gap) + 0.5)) return {edge, gap};
     }
   }
+  return {0.0, 0.0};
+}
+
+TEST(Spiral, DividesForTheLeftBoundAndMultipliesForTheBottom) {
+  const auto [edge, gap] = EdgeThatDependsOnTheOperation();
   ASSERT_NE(edge, 0.0) << "no such pair among the candidates";
   const auto fill = Fill({{edge, edge, edge + 9 * gap, edge + 9 * gap}}, 5, gap);
   const double left = fill[0], bottom = fill[1];
   EXPECT_NE(left, bottom);
   EXPECT_EQ(left, (static_cast<int>(edge / gap + 0.5) + 1) * gap);
   EXPECT_EQ(bottom, (static_cast<int>(edge * (1 / gap) + 0.5) + 1) * gap);
+}
+
+TEST(Spiral, MultipliesForTheRightAndTheTopBound) {
+  const auto [edge, gap] = EdgeThatDependsOnTheOperation();
+  ASSERT_NE(edge, 0.0) << "no such pair among the candidates";
+  const auto fill = Fill({{0, 0, edge, edge}}, 5, gap);
+  const double top = fill[3], right = fill[6];
+  EXPECT_EQ(top, static_cast<int>(edge * (1 / gap) + 0.5) * gap);
+  EXPECT_EQ(right, static_cast<int>(edge * (1 / gap) + 0.5) * gap);
 }
 
 TEST(Spiral, MayEndOnAnyWholeSegment) {
