@@ -98,6 +98,7 @@ char* EncodeWithModulo11(const char* text, QuietZone quietZone) {
 }  // namespace
 
 char* EncodeCode11(const char* text, Code11CheckScheme scheme, QuietZone quietZone) {
+  // D-11-2: the empty text passes.
   if (scheme == Code11CheckScheme::kNone || !IsCode11Text(text)) return nullptr;
 
   const std::size_t length = std::strlen(text);

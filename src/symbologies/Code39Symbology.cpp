@@ -82,6 +82,7 @@ std::size_t FrameText(const char* text, char* framed) {
 
 bool IsCode39Text(const char* framed) {
   for (; *framed != '\0'; ++framed) {
+    // D-39-4: '*' inside the data as well as around it.
     if (!IsDigit(*framed) && !IsAsciiUpper(*framed) && !IsOneOf(*framed, "*-$% ./+")) return false;
   }
   return true;

@@ -70,6 +70,7 @@ char* EncodeFullAscii(const char* text, QuietZone quietZone) {
 }  // namespace
 
 char* EncodeCode93(const char* text, Code93Input input, QuietZone quietZone) {
+  // D-93-4: the empty text passes.
   if (input == Code93Input::kNativeSet && !IsInNativeSet(text)) return nullptr;
 
   const TextSums sums = SumFromTheRight(text);

@@ -60,6 +60,7 @@ char MsiModulo11Check(const char* digits) {
 }
 
 char* EncodeMsi(const char* text, MsiCheckScheme scheme, QuietZone quietZone) {
+  // D-MSI-1: the empty text passes.
   if (scheme == MsiCheckScheme::kNone || !IsDigitText(text)) return nullptr;
 
   const char check =
