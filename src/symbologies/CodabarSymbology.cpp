@@ -66,7 +66,8 @@ constexpr std::size_t kUsualCapacity =
 bool IsCodabarText(const char* text, std::size_t length) {
   if (length == 0 || length > kLongestText) return false;
   for (std::size_t i = 0; i < length; ++i) {
-    // D-CB-1, D-CB-2: a start or stop character may stand at either end and need not.
+    // D-CB-1, D-CB-2: a start or stop character may stand at either end and need not; D-CB-3: data
+    // need not stand between them.
     const bool atAnEnd = i == 0 || i == length - 1;
     if (atAnEnd && IsOneOf(text[i], "ABCDENT*")) continue;
     if (!IsDigit(text[i]) && !IsOneOf(text[i], "-$+:/.")) return false;

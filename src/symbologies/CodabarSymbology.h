@@ -7,6 +7,7 @@
 // Deliberate deviations, kept because hosts depend on them (ids in docs/deviations.md):
 //   D-CB-1  data without start and stop characters is accepted and written without them
 //   D-CB-2  a start character without a stop character, or the reverse, is accepted
+//   D-CB-3  a start and a stop character without data between them are accepted
 #ifndef BARHATCH_SYMBOLOGIES_CODABARSYMBOLOGY_H
 #define BARHATCH_SYMBOLOGIES_CODABARSYMBOLOGY_H
 

@@ -16,8 +16,8 @@ struct Code11Character {
   char elements[6];
 };
 
-// Code 11 characters in the order of their values: AIM USS Code 11, character set. Elements left to
-// right, bar first; 1 = wide. The last row is start and stop.
+// Code 11 characters in the order of their values, as its public descriptions list them. Elements
+// left to right, bar first; 1 = wide. The last row is start and stop.
 // clang-format off
 constexpr Code11Character kCode11Characters[] = {
     //    BSBSB

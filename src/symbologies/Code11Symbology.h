@@ -1,4 +1,4 @@
-// Code 11 (AIM USS Code 11): start, the digits and dashes of the data, the check character C and,
+// Code 11: start, the digits and dashes of the data, the check character C and,
 // for ten data characters or more, the check character K, stop. Five elements a character, one
 // narrow space between characters. "123" becomes 1 2 3 and C = 10, which is '-', framed: 35
 // letters.

@@ -110,7 +110,7 @@ const char* Code39Elements(char character) {
 
 char* EncodeCode39(const char* text, QuietZone quietZone) {
   char framed[kNarrowTextCapacity + 2];
-  const std::size_t length = FrameText(text, framed);
+  const std::size_t length = FrameText(text, framed);  // D-39-6: two characters at least
   if (length > kLongestFramedText || !IsCode39Text(framed)) return nullptr;
 
   const int quietModules = QuietModules(quietZone);

@@ -9,6 +9,7 @@
 //   D-39-3  'E' to 'Z' are accepted and all written as one narrow bar and eight wide elements
 //   D-39-4  '*' is accepted inside the data and written as the start/stop character
 //   D-39-5  "%%" in the data stands for a single '%'
+//   D-39-6  the empty text is accepted and gives start and stop alone
 #ifndef BARHATCH_SYMBOLOGIES_CODE39SYMBOLOGY_H
 #define BARHATCH_SYMBOLOGIES_CODE39SYMBOLOGY_H
 

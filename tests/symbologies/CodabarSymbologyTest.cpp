@@ -202,5 +202,10 @@ TEST(CodabarDeviations, DCB2StartWithoutStopAndStopWithoutStartAreAccepted) {
   EXPECT_EQ(TextOf(Encode("D")), std::nullopt);
 }
 
+TEST(CodabarDeviations, DCB3StartAndStopWithoutDataAreAccepted) {
+  EXPECT_EQ(Encode("AB"), kA + "a" + kB);
+  EXPECT_EQ(Encode("*E"), kC + "a" + kD);
+}
+
 }  // namespace
 }  // namespace barhatch

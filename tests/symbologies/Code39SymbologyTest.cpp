@@ -201,5 +201,9 @@ TEST(Code39Deviations, D395UserTextNeverReachesAFormatter) {
   EXPECT_EQ(Encode("%1$%-5%")->size(), 10u * 9 - 1);
 }
 
+TEST(Code39Deviations, D396EmptyTextGivesStartAndStopAlone) {
+  EXPECT_EQ(Encode(""), kStartStop + "a" + kStartStop);
+}
+
 }  // namespace
 }  // namespace barhatch
