@@ -2,6 +2,8 @@
 
 #include <cassert>
 
+#include "symbologies/PatternTables.h"
+
 namespace barhatch {
 
 namespace {
@@ -146,13 +148,6 @@ constexpr bool WidthsAreOneToFour(const Code128Character& row) {
   return row.widths[6] == '\0';
 }
 
-constexpr bool SameWidths(const Code128Character& a, const Code128Character& b) {
-  for (int i = 0; i < 6; ++i) {
-    if (a.widths[i] != b.widths[i]) return false;
-  }
-  return true;
-}
-
 constexpr bool RowsAreInValueOrder() {
   for (int i = 0; i < kCode128CharacterCount; ++i) {
     if (kCode128Characters[i].value != i) return false;
@@ -168,18 +163,10 @@ constexpr bool RowsHaveElevenModulesAndEvenBars() {
   return true;
 }
 
-constexpr bool RowsAreDistinct() {
-  for (int i = 0; i < kCode128CharacterCount; ++i) {
-    for (int k = 0; k < i; ++k) {
-      if (SameWidths(kCode128Characters[i], kCode128Characters[k])) return false;
-    }
-  }
-  return true;
-}
 static_assert(kCode128CharacterCount == kCode128Stop + 1, "values 0 to 106");
 static_assert(RowsAreInValueOrder(), "the value is the index of its row");
 static_assert(RowsHaveElevenModulesAndEvenBars(), "11 modules, an even number of them dark");
-static_assert(RowsAreDistinct(), "no two characters look alike");
+static_assert(AllDistinct(kCode128Characters, &Code128Character::widths), "107 patterns");
 
 struct Code128Modules {
   char digits[kCode128CharacterCount][kCode128CharacterModules + 1];

@@ -3,6 +3,7 @@
 #include <cstddef>
 
 #include "symbologies/CharacterClasses.h"
+#include "symbologies/PatternTables.h"
 
 namespace barhatch {
 
@@ -15,33 +16,76 @@ struct Code39Character {
 
 // Code 39 characters: ISO/IEC 16388, symbol character assignments. Elements left to right, bar
 // first; 1 = wide.
+// clang-format off
 constexpr Code39Character kCode39Characters[] = {
     //     BSBSBSBSB
-    {'0', "000110100"}, {'1', "100100001"}, {'2', "001100001"}, {'3', "101100000"},
-    {'4', "000110001"}, {'5', "100110000"}, {'6', "001110000"}, {'7', "000100101"},
-    {'8', "100100100"}, {'9', "001100100"}, {'A', "100001001"}, {'B', "001001001"},
-    {'C', "101001000"}, {'D', "000011001"}, {'E', "100011000"}, {'F', "001011000"},
-    {'G', "000001101"}, {'H', "100001100"}, {'I', "001001100"}, {'J', "000011100"},
-    {'K', "100000011"}, {'L', "001000011"}, {'M', "101000010"}, {'N', "000010011"},
-    {'O', "100010010"}, {'P', "001010010"}, {'Q', "000000111"}, {'R', "100000110"},
-    {'S', "001000110"}, {'T', "000010110"}, {'U', "110000001"}, {'V', "011000001"},
+    {'0', "000110100"},  // index 0
+    {'1', "100100001"},
+    {'2', "001100001"},
+    {'3', "101100000"},
+    {'4', "000110001"},
+    {'5', "100110000"},
+    {'6', "001110000"},
+    {'7', "000100101"},
+    {'8', "100100100"},
+    {'9', "001100100"},
+    {'A', "100001001"},  // 10
+    {'B', "001001001"},
+    {'C', "101001000"},
+    {'D', "000011001"},
+    {'E', "100011000"},
+    {'F', "001011000"},
+    {'G', "000001101"},
+    {'H', "100001100"},
+    {'I', "001001100"},
+    {'J', "000011100"},
+    {'K', "100000011"},
+    {'L', "001000011"},
+    {'M', "101000010"},
+    {'N', "000010011"},
+    {'O', "100010010"},
+    {'P', "001010010"},
+    {'Q', "000000111"},
+    {'R', "100000110"},
+    {'S', "001000110"},
+    {'T', "000010110"},
+    {'U', "110000001"},
+    {'V', "011000001"},
     {'W', "011000000"},  // D-39-1: published 111000000
-    {'X', "010010001"}, {'Y', "110010000"}, {'Z', "011010000"}, {'*', "010010100"},
-    {'-', "010000101"}, {'$', "010101000"}, {'%', "000101010"}, {' ', "011000100"},
-    {'.', "110000100"}, {'/', "000101010"},  // D-39-2: published 010100010
+    {'X', "010010001"},
+    {'Y', "110010000"},
+    {'Z', "011010000"},
+    {'*', "010010100"},  // 36, start and stop
+    {'-', "010000101"},
+    {'$', "010101000"},
+    {'%', "000101010"},
+    {' ', "011000100"},
+    {'.', "110000100"},
+    {'/', "000101010"},  // D-39-2: published 010100010
     {'+', "010001010"},
 };
+// clang-format on
 constexpr int kCode39CharacterCount = sizeof(kCode39Characters) / sizeof(kCode39Characters[0]);
 
-constexpr int WideElements(const Code39Character& row) {
-  int wide = 0;
-  for (int i = 0; i < 9; ++i) wide += row.elements[i] == '1' ? 1 : 0;
-  return wide;
+constexpr bool HasPublishedElements(const Code39Character& row) {
+  return row.character != 'W' && row.character != '/';  // D-39-1, D-39-2
 }
 
-constexpr bool ThreeOfNineExcept(char deviating) {
+constexpr bool TwoWideBarsAndOneWideSpaceOrThreeWideSpaces() {
   for (const Code39Character& row : kCode39Characters) {
-    if (row.character != deviating && WideElements(row) != 3) return false;
+    const bool spacesAlone = IsOneOf(row.character, "$%/+");
+    if (row.character != 'W' && WideBars(row.elements) != (spacesAlone ? 0 : 2)) return false;
+    if (WideSpaces(row.elements) != (spacesAlone ? 3 : 1)) return false;
+  }
+  return true;
+}
+
+constexpr bool PublishedRowsAreDistinct() {
+  for (const Code39Character& a : kCode39Characters) {
+    for (const Code39Character& b : kCode39Characters) {
+      if (!HasPublishedElements(a) || !HasPublishedElements(b) || &a == &b) continue;
+      if (IsSamePattern(a.elements, b.elements)) return false;
+    }
   }
   return true;
 }
@@ -55,7 +99,9 @@ constexpr bool DigitsAndLettersStandInOrder() {
 }
 static_assert(DigitsAndLettersStandInOrder(), "0 to 9, then A to Z");
 static_assert(kCode39CharacterCount == 44, "digits, letters and eight further characters");
-static_assert(ThreeOfNineExcept('W'), "every Code 39 character has three wide elements of nine");
+static_assert(AllOfFullLength(kCode39Characters, &Code39Character::elements), "9 elements");
+static_assert(TwoWideBarsAndOneWideSpaceOrThreeWideSpaces(), "three wide elements of nine");
+static_assert(PublishedRowsAreDistinct(), "no two characters look alike but by D-39-2");
 
 // D-39-3: what stands for every letter from 'E' to 'Z'.
 constexpr char kUnlistedLetterElements[10] = "011111111";

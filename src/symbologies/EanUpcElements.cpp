@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "symbologies/CharacterClasses.h"
+#include "symbologies/PatternTables.h"
 
 namespace barhatch {
 
@@ -121,18 +122,13 @@ constexpr AddonParities kAddon5Parities[] = {
     {"00101"},  // 9
 };
 
-constexpr bool AreEqual(const char* a, const char* b) {
-  for (; *a != '\0' && *a == *b; ++a) ++b;
-  return *a == *b;
-}
-
 // True when each of the ten rows has so many digits from G and none of them is there twice.
 template <typename Row>
 constexpr bool TenDistinctRowsOf(const Row (&rows)[10], int digitsFromG) {
   for (int i = 0; i < 10; ++i) {
     if (CountOf('1', rows[i].parities) != digitsFromG) return false;
     for (int j = 0; j < i; ++j) {
-      if (AreEqual(rows[i].parities, rows[j].parities)) return false;
+      if (IsSamePattern(rows[i].parities, rows[j].parities)) return false;
     }
   }
   return true;
