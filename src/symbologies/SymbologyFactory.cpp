@@ -49,20 +49,33 @@ struct SymbologyRow {
   bool fullAscii;  // Code 93 only: any byte is accepted as input
 };
 
+// clang-format off
 constexpr SymbologyRow kSymbologies[] = {
-    {0, EncoderClass::kCodabar, false},      {1, EncoderClass::kCode39, false},
-    {2, EncoderClass::kCode93, false},       {3, EncoderClass::kEan13, false},
-    {4, EncoderClass::kMsi, false},          {5, EncoderClass::kCode128Auto, false},
-    {6, EncoderClass::kCode128A, false},     {7, EncoderClass::kCode128B, false},
-    {8, EncoderClass::kCode128C, false},     {9, EncoderClass::kUpcA, false},
-    {10, EncoderClass::kUpcE, false},        {11, EncoderClass::kCode11, false},
-    {12, EncoderClass::kEan8, false},        {13, EncoderClass::kUpcAAddon2, false},
-    {14, EncoderClass::kUpcAAddon5, false},  {15, EncoderClass::kEan13Addon2, false},
-    {16, EncoderClass::kEan13Addon5, false}, {17, EncoderClass::kEan8Addon2, false},
-    {18, EncoderClass::kEan8Addon5, false},  {19, EncoderClass::kUpcEAddon2, false},
-    {20, EncoderClass::kUpcEAddon5, false},  {21, EncoderClass::kInterleaved2of5, false},
+    {0, EncoderClass::kCodabar, false},
+    {1, EncoderClass::kCode39, false},
+    {2, EncoderClass::kCode93, false},
+    {3, EncoderClass::kEan13, false},
+    {4, EncoderClass::kMsi, false},
+    {5, EncoderClass::kCode128Auto, false},
+    {6, EncoderClass::kCode128A, false},
+    {7, EncoderClass::kCode128B, false},
+    {8, EncoderClass::kCode128C, false},
+    {9, EncoderClass::kUpcA, false},
+    {10, EncoderClass::kUpcE, false},
+    {11, EncoderClass::kCode11, false},
+    {12, EncoderClass::kEan8, false},
+    {13, EncoderClass::kUpcAAddon2, false},
+    {14, EncoderClass::kUpcAAddon5, false},
+    {15, EncoderClass::kEan13Addon2, false},
+    {16, EncoderClass::kEan13Addon5, false},
+    {17, EncoderClass::kEan8Addon2, false},
+    {18, EncoderClass::kEan8Addon5, false},
+    {19, EncoderClass::kUpcEAddon2, false},
+    {20, EncoderClass::kUpcEAddon5, false},
+    {21, EncoderClass::kInterleaved2of5, false},
     {22, EncoderClass::kCode93, true},
 };
+// clang-format on
 constexpr std::size_t kSymbologyCount = sizeof(kSymbologies) / sizeof(kSymbologies[0]);
 
 constexpr bool RowsAreIndexedByType() {
