@@ -383,8 +383,9 @@ RULES = [
                ("line % 2 == 0", "line % 2 == 1"), ("column += 2", "column += 1"),
                ("Write(kNarrowBar, 1)", 2, "Write(kNarrowSpace, 1)"),
                ("Write(kNarrowSpace, 1)", "Write(kNarrowBar, 1)"), ("Write(rightSide, 1)", "Write(kNarrowBar, 1)")),
+    *constants(DM + "DataMatrixEncoder.h",
+               ("kMaxDataMatrixText = 3116", "kMaxDataMatrixText = 3115", "kMaxDataMatrixText = 3117")),
     *constants(DM + "DataMatrixEncoder.cpp",
-               ("kMaxTextLength = 3116", "kMaxTextLength = 3115", "kMaxTextLength = 3117"),
                ("kMacro05Format = 2", "kMacro05Format = 1", "kMacro05Format = 4"),
                ("kMacro06Format = 3", "kMacro06Format = 4"), ("kMacro05Codeword = 236", "kMacro05Codeword = 235"),
                ("kMacro06Codeword = 237", "kMacro06Codeword = 238")),
@@ -491,7 +492,6 @@ RULES = [
     *constants(API + "BarcodeSettings.h", ("kDataStringCapacity = 3120", "kDataStringCapacity = 3119",
                "kDataStringCapacity = 3121")),
     *constants(API + "LinearExports.cpp", ("12345", "12344", "12346")),
-    *constants(API + "DataMatrixExports.cpp", ("    3116;", "    3115;", "    3117;")),
     *constants(API + "ApiTrace.cpp", ("0xFFFD", "0xFFFC")),
 ]
 

@@ -8,12 +8,9 @@
 
 namespace {
 
-constexpr std::size_t kLongestDataMatrixText =
-    3116;  // digits of the largest symbol: 1558 codewords of two
-
 bool IsDataMatrixText(const BarhatchChar* text) {
   return text != nullptr &&
-         barhatch::TextLength(text, kLongestDataMatrixText) <= kLongestDataMatrixText;
+         barhatch::TextLength(text, barhatch::kMaxDataMatrixText) <= barhatch::kMaxDataMatrixText;
 }
 
 void CopyRecord(const DataMatrixBarcodeInfo& info, barhatch::BarcodeSettings& settings) {

@@ -14,8 +14,6 @@ namespace barhatch {
 
 namespace {
 
-constexpr std::size_t kMaxTextLength = 3116;  // two digits in each of 1558 codewords
-
 constexpr std::int32_t kMacro05Format = 2;
 constexpr std::int32_t kMacro06Format = 3;
 constexpr int kMacro05Codeword = 236;
@@ -40,7 +38,7 @@ Order OrderOf(const BarcodeSettings& settings) {
   const std::size_t length = TextLength(settings.DataString);
   return {settings.DataString,
           length,
-          settings.DataStringRefused || length > kMaxTextLength,
+          settings.DataStringRefused || length > kMaxDataMatrixText,
           settings.format,
           RequestFromMatrixSize(settings.MatrixSize, settings.IsExpanding),
           settings.QuietZone != 0 ? QuietBorder::kOneModule : QuietBorder::kNone};

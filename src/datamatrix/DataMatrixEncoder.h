@@ -8,12 +8,17 @@
 #ifndef BARHATCH_DATAMATRIX_DATAMATRIXENCODER_H
 #define BARHATCH_DATAMATRIX_DATAMATRIXENCODER_H
 
+#include <cstddef>
+
 #include "barhatch.h"
 #include "datamatrix/CodewordBuffer.h"
 #include "datamatrix/SymbolSizes.h"
 #include "symbologies/Symbology.h"
 
 namespace barhatch {
+
+// Two digits in each of the 1558 data codewords of the largest symbol.
+constexpr std::size_t kMaxDataMatrixText = 3116;
 
 // An encoder serves one call. It is a Symbology by its base alone: there is no module string of a
 // matrix, and GenerateString is the base's.

@@ -12,6 +12,12 @@ constexpr bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 constexpr bool IsAsciiUpper(char c) { return c >= 'A' && c <= 'Z'; }
 constexpr bool IsAsciiLower(char c) { return c >= 'a' && c <= 'z'; }
 
+// True for digits alone, and for the empty text.
+constexpr bool IsDigits(const char* text) {
+  while (IsDigit(*text)) ++text;
+  return *text == '\0';
+}
+
 // True for the characters of the list and false for all others, the NUL among them.
 constexpr bool IsOneOf(char c, const char* list) {
   for (; *list != '\0'; ++list) {

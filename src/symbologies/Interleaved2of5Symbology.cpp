@@ -60,11 +60,6 @@ constexpr std::size_t kUsualCapacity = 24936;
 // Four elements of start and three of stop.
 constexpr std::size_t kFrameLetters = 4 + 3;
 
-bool IsDigits(const char* text) {
-  while (IsDigit(*text)) ++text;
-  return *text == '\0';
-}
-
 // Returns the number of digits written, which is even.
 std::size_t CompleteDigits(const char* text, Interleaved2of5Check check, char* digits) {
   const std::size_t textLength = std::strlen(text);

@@ -18,13 +18,6 @@ constexpr char kOneBit[] = "110";
 constexpr std::size_t kUsualCapacity =
     37424;  // what an MSI module string has always been allocated with
 
-bool IsDigitText(const char* text) {
-  for (; *text != '\0'; ++text) {
-    if (!IsDigit(*text)) return false;
-  }
-  return true;
-}
-
 // What a digit adds to the digit sum of the doubled number: twice itself, and from 5 on a ten is
 // carried, which counts one in the next place. A carry coming in never causes another: 2 x 4 + 1
 // is below ten.
@@ -61,7 +54,7 @@ char MsiModulo11Check(const char* digits) {
 
 char* EncodeMsi(const char* text, MsiCheckScheme scheme, QuietZone quietZone) {
   // D-MSI-1: the empty text passes.
-  if (scheme == MsiCheckScheme::kNone || !IsDigitText(text)) return nullptr;
+  if (scheme == MsiCheckScheme::kNone || !IsDigits(text)) return nullptr;
 
   const char check =
       scheme == MsiCheckScheme::kModulo11 ? MsiModulo11Check(text) : MsiModulo10Check(text);

@@ -105,27 +105,6 @@ TEST(Code39Table, RowsAreDistinctButForTheDeviatingSlash) {
   EXPECT_EQ(rows.size(), 43u);
 }
 
-// The published set is a grid: the bars of 1..0 are those of A..J, K..T and U..*, and the wide
-// space is the second in the first group, the third, the last and the first in the others.
-TEST(Code39Table, BarsRepeatEveryTenCharactersAndTheWideSpaceTellsTheGroup) {
-  const int groups[4][10] = {{1, 2, 3, 4, 5, 6, 7, 8, 9, 0},
-                             {10, 11, 12, 13, 14, 15, 16, 17, 18, 19},
-                             {20, 21, 22, 23, 24, 25, 26, 27, 28, 29},
-                             {30, 31, 32, 33, 34, 35, 37, 41, 40, 36}};  // U to Z - . space *
-  const std::string bars[10] = {"10001", "01001", "11000", "00101", "10100",
-                                "01100", "00011", "10010", "01010", "00110"};
-  const std::string spaces[4] = {"0100", "0010", "0001", "1000"};
-  for (int group = 0; group < 4; ++group) {
-    for (int i = 0; i < 10; ++i) {
-      const int row = groups[group][i];
-      const std::string e = Code39TableElements(row);
-      EXPECT_EQ((std::string{e[1], e[3], e[5], e[7]}), spaces[group]) << "row " << row;
-      if (row == 32) continue;  // D-39-1
-      EXPECT_EQ((std::string{e[0], e[2], e[4], e[6], e[8]}), bars[i]) << "row " << row;
-    }
-  }
-}
-
 // How the published set is made: a character's bars are one of ten two-of-five codes, the same in
 // every group of ten, and its group is told by the place of the one wide space. The four signs
 // without wide bars have one narrow space instead.
