@@ -6,6 +6,7 @@
 #include <random>
 #include <vector>
 
+#include "datamatrix/SizeTesting.h"
 #include "support/EccReference.h"
 #include "support/SymbolSizeReference.h"
 
@@ -13,13 +14,7 @@ namespace barhatch {
 namespace {
 
 using test::ReferenceSize;
-
-SymbolSize SizeOf(const ReferenceSize& reference) {
-  SymbolSize size{};
-  EXPECT_TRUE(ChooseSymbolSize(reference.data, {reference.rows, reference.columns, 0}, size));
-  EXPECT_EQ(size.symbolColumns, reference.columns);
-  return size;
-}
+using test::SizeOf;
 
 std::vector<int> RandomCodewords(int count, unsigned seed) {
   std::mt19937 random(seed);

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "datamatrix/SizeTesting.h"
 #include "support/AllocationProbe.h"
 #include "support/GridText.h"
 #include "support/OwnedGrid.h"
@@ -15,13 +16,7 @@ namespace {
 
 using test::OwnedGrid;
 using test::ReferenceSize;
-
-SymbolSize SizeOf(const ReferenceSize& reference) {
-  SymbolSize size{};
-  EXPECT_TRUE(ChooseSymbolSize(reference.data, {reference.rows, reference.columns, 0}, size));
-  EXPECT_EQ(size.symbolColumns, reference.columns);
-  return size;
-}
+using test::SizeOf;
 
 OwnedGrid Draw(const ReferenceSize& size, const std::string& mapping,
                QuietBorder border = QuietBorder::kNone) {

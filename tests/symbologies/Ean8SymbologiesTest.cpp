@@ -2,25 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <string>
 
 #include "support/EanUpcReader.h"
 #include "support/Modules.h"
-#include "support/OwnedString.h"
+#include "symbologies/EanUpcTesting.h"
 
 namespace barhatch {
 namespace {
 
+using test::Encode;
 using test::Modules;
 using test::Quiet;
 using test::ReadEanUpc;
-using test::Take;
-
-template <typename EanUpcClass>
-std::optional<std::string> Encode(const std::string& text, QuietZone quietZone = QuietZone::kNone) {
-  return Take(EanUpcClass::Encode(text.c_str(), quietZone));
-}
 
 // GS1 General Specifications, example of EAN-8: 9501234 and its check digit 6.
 TEST(Ean8, PublishedExampleIsDrawnDigitByDigit) {

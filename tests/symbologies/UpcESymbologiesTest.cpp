@@ -2,26 +2,20 @@
 
 #include <gtest/gtest.h>
 
-#include <optional>
 #include <random>
 #include <string>
 
 #include "support/EanUpcReader.h"
 #include "support/Modules.h"
-#include "support/OwnedString.h"
+#include "symbologies/EanUpcTesting.h"
 
 namespace barhatch {
 namespace {
 
+using test::Encode;
 using test::Modules;
 using test::Quiet;
 using test::ReadEanUpc;
-using test::Take;
-
-template <typename EanUpcClass>
-std::optional<std::string> Encode(const std::string& text, QuietZone quietZone = QuietZone::kNone) {
-  return Take(EanUpcClass::Encode(text.c_str(), quietZone));
-}
 
 std::string Expanded(const std::string& upcE) {
   char upcA[kUpcADigits + 1];
