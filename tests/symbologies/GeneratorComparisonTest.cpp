@@ -10,8 +10,14 @@
 #include "support/SeededTexts.h"
 #include "symbologies/CodabarSymbology.h"
 #include "symbologies/Code11Symbology.h"
+#include "symbologies/Code39Symbology.h"
 #include "symbologies/Code93Symbology.h"
+#include "symbologies/Ean13UpcASymbologies.h"
+#include "symbologies/Ean8Symbologies.h"
+#include "symbologies/EanUpcTesting.h"
+#include "symbologies/Interleaved2of5Symbology.h"
 #include "symbologies/MsiSymbology.h"
+#include "symbologies/UpcESymbologies.h"
 
 namespace barhatch {
 namespace {
@@ -38,14 +44,11 @@ std::string ModulesOfTheGenerator(int symbology, int option, const std::string& 
   return modules;
 }
 
-// A module string with wide elements of two modules.
-std::string ModulesOf(const std::optional<std::string>& letters) {
+std::string ModulesOf(const std::optional<std::string>& letters, std::size_t wide = 2) {
   std::string modules;
   for (char letter : letters.value_or("")) {
-    if (letter == 'A') modules += "1";
-    if (letter == 'B') modules += "11";
-    if (letter == 'a') modules += "0";
-    if (letter == 'b') modules += "00";
+    const bool isWide = letter == 'B' || letter == 'b';
+    modules.append(isWide ? wide : 1, letter == 'A' || letter == 'B' ? '1' : '0');
   }
   return modules;
 }
@@ -108,6 +111,87 @@ TEST(GeneratorComparison, Code11) {
         ModulesOfTheGenerator(BARCODE_CODE11, text.size() < 10 ? kOneCheck : kTwoChecks, text))
         << text;
   }
+}
+
+// Both let the gap stand between characters and not after the last.
+TEST(GeneratorComparison, Code39OfTheSafeCharacters) {
+  SeededTexts texts(39);
+  for (int i = 0; i < 2000; ++i) {
+    const std::string text = texts.Next("0123456789ABCD-. $+", 1, 80);
+    ASSERT_EQ(ModulesOf(Take(EncodeCode39(text.c_str(), QuietZone::kNone))),
+              ModulesOfTheGenerator(BARCODE_CODE39, 0, text))
+        << text;
+  }
+}
+
+TEST(GeneratorComparison, Interleaved2of5) {
+  constexpr std::size_t kWide = 3;
+  SeededTexts texts(25);
+  for (int i = 0; i < 2000; ++i) {
+    const std::string text = texts.Next(kDigits, 1, 80);
+    ASSERT_EQ(ModulesOf(Take(EncodeInterleaved2of5(text.c_str(), QuietZone::kNone)), kWide),
+              ModulesOfTheGenerator(BARCODE_C25INTER, 0, text))
+        << text;
+  }
+}
+
+// The generator refuses the digits of a UPC-E symbol whose UPC-A number has another, preferred
+// form.
+bool HasAnotherUpcEForm(const std::string& upcE) {
+  const char last = upcE[6];
+  if (last == '3') return upcE[3] <= '2';
+  if (last == '4') return upcE[4] == '0';
+  return last >= '5' && upcE[5] == '0';
+}
+
+// The generator wants '+' in front of an add-on and is told the modules between it and the symbol.
+// For UPC-A it takes nine at least; one of them is cut out again.
+std::string EanUpcOfTheGenerator(int symbology, const std::string& symbol,
+                                 const std::string& addOn) {
+  constexpr int kGap = 8;  // D-EAN-1
+  if (addOn.empty()) return ModulesOfTheGenerator(symbology, 0, symbol);
+  const std::string text = symbol + '+' + addOn;
+  if (symbology != BARCODE_UPCA) return ModulesOfTheGenerator(symbology, kGap, text);
+  return ModulesOfTheGenerator(symbology, kGap + 1, text).erase(95, 1);
+}
+
+template <typename EanUpcClass>
+void CompareEanUpc(int symbology, const std::string& alphabetOfTheFirst, std::size_t digits,
+                   std::size_t addOnDigits = 0) {
+  SeededTexts texts(13);
+  for (int i = 0; i < 1000; ++i) {
+    const std::string symbol =
+        texts.Next(alphabetOfTheFirst, 1, 1) + texts.Next(kDigits, digits - 1, digits - 1);
+    const std::string addOn = texts.Next(kDigits, addOnDigits, addOnDigits);
+    if (symbology == BARCODE_UPCE && HasAnotherUpcEForm(symbol)) continue;
+    ASSERT_EQ(ModulesOf(test::Encode<EanUpcClass>(symbol + addOn)),
+              EanUpcOfTheGenerator(symbology, symbol, addOn))
+        << symbol << '+' << addOn;
+  }
+}
+
+TEST(GeneratorComparison, Ean13) {
+  CompareEanUpc<Ean13Symbology>(BARCODE_EANX, kDigits, 12);
+  CompareEanUpc<Ean13Addon2Symbology>(BARCODE_EANX, kDigits, 12, 2);
+  CompareEanUpc<Ean13Addon5Symbology>(BARCODE_EANX, kDigits, 12, 5);
+}
+
+TEST(GeneratorComparison, Ean8) {
+  CompareEanUpc<Ean8Symbology>(BARCODE_EANX, kDigits, 7);
+  CompareEanUpc<Ean8Addon2Symbology>(BARCODE_EANX, kDigits, 7, 2);
+  CompareEanUpc<Ean8Addon5Symbology>(BARCODE_EANX, kDigits, 7, 5);
+}
+
+TEST(GeneratorComparison, UpcA) {
+  CompareEanUpc<UpcASymbology>(BARCODE_UPCA, kDigits, 11);
+  CompareEanUpc<UpcAAddon2Symbology>(BARCODE_UPCA, kDigits, 11, 2);
+  CompareEanUpc<UpcAAddon5Symbology>(BARCODE_UPCA, kDigits, 11, 5);
+}
+
+TEST(GeneratorComparison, UpcE) {
+  CompareEanUpc<UpcESymbology>(BARCODE_UPCE, "01", 7);
+  CompareEanUpc<UpcEAddon2Symbology>(BARCODE_UPCE, "01", 7, 2);
+  CompareEanUpc<UpcEAddon5Symbology>(BARCODE_UPCE, "01", 7, 5);
 }
 
 }  // namespace
