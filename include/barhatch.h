@@ -34,6 +34,9 @@
 #include <stddef.h>
 #include <stdint.h>
 
+/* The version of this header, major.minor.patch. */
+#define BARHATCH_VERSION "0.1.0"
+
 #if defined(_WIN32)
 #define BARHATCH_API
 #else
