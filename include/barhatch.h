@@ -19,13 +19,13 @@
  *
  * FilledArray, by FillingShapeType
  *
- *     0: line segments, in drawing order            2: points (hatching type 6), left to right
+ *        0: line segments, in drawing order             2: points (hatching type 6), left to right
  *        +----+----+----+----+----+----+--              +----+----+----+----+--
  *        | xa | ya | xb | yb | xa | ya | ..             | x  | y  | x  | y  | ..
  *        +----+----+----+----+----+----+--              +----+----+----+----+--
  *        |<- first segment ->|<- second ..              |<-first->|<-second->|
  *
- *     BufferLength counts the doubles: 4 for each segment, 2 for each point.
+ * BufferLength counts the doubles: 4 for each segment, 2 for each point.
  *
  * The header is C99 and C++17. */
 #ifndef BARHATCH_H
@@ -85,9 +85,9 @@ typedef struct DataMatrixBarcodeInfo {
 
 /* TwoDStringResult: a grid of modules, row by row from the top: 'A' dark, 'a' light, then a NUL. */
 typedef struct TwoDStringResult {
-  int32_t numrows;
-  int32_t numcols;
-  char* data;
+  int32_t numrows; /* rows of modules */
+  int32_t numcols; /* modules of a row */
+  char* data;      /* numrows x numcols letters */
 } TwoDStringResult;
 
 /* FillBufferInfo: what the head has to trace, result of every vector generator. Released by FreeBarcodeData. */
@@ -202,10 +202,12 @@ BARHATCH_API FillBufferInfo* TestStruct(void);
  *        that makes no symbol, a fill without strokes, no memory (the settings are in force) */
 BARHATCH_API FillBufferInfo* GenerateDataMatrixBarcode(const DataMatrixBarcodeInfo* info);
 
-/* Free2DBarcodeStringResult, FreePdf417BarcodeStringResult: release a grid and its data. Null is allowed. The two differ
- * in their trace alone; no PDF417 is ever produced.
+/* Free2DBarcodeStringResult: releases a grid and its data. Null is allowed.
  * Reads: -   Writes: -   Returns: -   Fails: never   Frees: the record (new) and data (new[]) */
 BARHATCH_API void Free2DBarcodeStringResult(TwoDStringResult* grid);
+
+/* FreePdf417BarcodeStringResult: the same under another name, which its trace tells; no PDF417 is ever produced.
+ * Reads: -   Writes: -   Returns: -   Fails: never   Frees: the record (new) and data (new[]) */
 BARHATCH_API void FreePdf417BarcodeStringResult(TwoDStringResult* grid);
 
 #ifdef __cplusplus

@@ -32,6 +32,7 @@ namespace barhatch {
 // A name of its own keeps these types apart from those inside of the library.
 inline namespace host {
 
+// The linear symbologies.
 enum class Type : std::int32_t {
   kCodabar = 0,
   kCode39 = 1,
@@ -58,6 +59,7 @@ enum class Type : std::int32_t {
   kCode93FullAscii = 22
 };
 
+// How the bars are filled.
 enum class Pattern : std::int32_t {
   kScanLines = 0,              // horizontal lines across the whole symbol
   kVerticalLines = 1,          // vertical lines upwards
@@ -67,6 +69,7 @@ enum class Pattern : std::int32_t {
   kPoints = 6                  // one point at the centre of each bar
 };
 
+// What stands in front of the text of a Data Matrix.
 enum class CodeFormat : std::int32_t {
   kPlain = 0,
   kFnc1 = 1,     // FNC1 in second position
@@ -74,46 +77,54 @@ enum class CodeFormat : std::int32_t {
   kMacro06 = 3   // header of ISO/IEC 15434 format 06
 };
 
+// A text as the library takes it: u"...", or L"..." on the device.
 using Text = std::basic_string<BarhatchChar>;
-using TextView = std::basic_string_view<BarhatchChar>;
 
 // A barcode of a linear type. The defaults are those of InitBarcode, but for the text.
 struct LinearBarcode {
-  Type type = Type::kCodabar;
-  Text text;            // at most 3119 units
-  double width = 1.0;   // of the whole symbol, quiet zones included
-  double height = 0.5;  // of the bars
-  double printRatio = 3.0;
-  bool invert = false;  // fill the light elements
-  bool quietZone = false;
-  Pattern pattern = Pattern::kScanLines;
-  double lineGap = 0.0001;
+  Type type = Type::kCodabar;             // symbology
+  Text text;                              // at most 3119 units
+  double width = 1.0;                     // of the whole symbol, quiet zones included
+  double height = 0.5;                    // of the bars
+  double printRatio = 3.0;                // width of a wide element in modules
+  bool invert = false;                    // fill the light elements
+  bool quietZone = false;                 // add those that the symbology asks for
+  Pattern pattern = Pattern::kScanLines;  // how the elements are filled
+  double lineGap = 0.0001;                // pitch of the strokes
 };
 
 // A Data Matrix. Unless asked otherwise it is the smallest square that holds the text.
 struct DataMatrix {
   Text text;            // at most 3116 units; units above 255 are ECI designators
   double height = 0.5;  // of the whole symbol, quiet zone included
-  CodeFormat format = CodeFormat::kPlain;
-  std::uint8_t rows = 0;
-  std::uint8_t columns = 0;
-  bool mayExpand = true;  // beyond rows x columns
-  bool invert = false;
-  bool quietZone = false;
-  Pattern pattern = Pattern::kScanLines;
-  double lineGap = 0.0001;
+  CodeFormat format = CodeFormat::kPlain;  // FNC1 or a macro header
+  std::uint8_t rows = 0;                   // of the size asked for; 0 x 0: the smallest square
+  std::uint8_t columns = 0;                // of the size asked for
+  bool mayExpand = true;                   // beyond rows x columns
+  bool invert = false;                     // fill the light modules
+  bool quietZone = false;                  // add one light module on every side
+  Pattern pattern = Pattern::kScanLines;   // how the modules are filled
+  double lineGap = 0.0001;                 // pitch of the strokes
 };
 
+// A stroke from a to b.
 struct Segment {
-  static constexpr std::size_t kDoubles = 4;
+  static constexpr std::size_t kDoubles = 4;  // of the coordinates of one
+  // From coordinates in the order of FilledArray.
   explicit constexpr Segment(const double* c) : xa(c[0]), ya(c[1]), xb(c[2]), yb(c[3]) {}
-  double xa, ya, xb, yb;
+  double xa;  // where it begins
+  double ya;  // where it begins
+  double xb;  // where it ends
+  double yb;  // where it ends
 };
 
+// A point to mark.
 struct Point {
-  static constexpr std::size_t kDoubles = 2;
+  static constexpr std::size_t kDoubles = 2;  // of the coordinates of one
+  // From coordinates in the order of FilledArray.
   explicit constexpr Point(const double* c) : x(c[0]), y(c[1]) {}
-  double x, y;
+  double x;  // to the right
+  double y;  // upwards
 };
 
 // Segments or points in marking order, made from the coordinates as they are asked for. Valid as
@@ -147,15 +158,18 @@ class Strokes {
     const double* at_;
   };
 
+  // count strokes with Stroke::kDoubles coordinates each.
   constexpr Strokes(const double* coordinates, std::size_t count)
       : coordinates_(coordinates), count_(count) {}
-  constexpr std::size_t size() const { return count_; }
-  constexpr bool empty() const { return count_ == 0; }
-  // REQUIRES: index < size().
+  constexpr std::size_t size() const { return count_; }  // how many strokes
+  constexpr bool empty() const { return count_ == 0; }   // none
+  // One stroke. REQUIRES: index < size().
   constexpr Stroke operator[](std::size_t index) const {
     return Stroke(coordinates_ + Stroke::kDoubles * index);
   }
+  // In marking order.
   constexpr Iterator begin() const { return Iterator(coordinates_); }
+  // Behind the last.
   constexpr Iterator end() const { return Iterator(coordinates_ + Stroke::kDoubles * count_); }
 
  private:
@@ -169,13 +183,17 @@ class Fill {
   // Takes over what a vector generator of barhatch.h gave. REQUIRES: not null.
   explicit Fill(FillBufferInfo* info) : info_(info) {}
 
+  // True for Pattern::kPoints.
   bool IsPoints() const { return info_->FillingShapeType == 2; }
-  // One of the two is empty.
+  // The segments; none of a fill of points.
   Strokes<Segment> Segments() const { return View<Segment>(!IsPoints()); }
+  // The points; none of a fill of segments.
   Strokes<Point> Points() const { return View<Point>(IsPoints()); }
-  // Extents as the library tells them, see FillBufferInfo.
+  // FillBufferInfo::FillHeight.
   double Height() const { return info_->FillHeight; }
+  // FillBufferInfo::FillWidth.
   double Width() const { return info_->FillWidth; }
+  // The record itself.
   const FillBufferInfo& Info() const { return *info_; }
 
  private:
@@ -198,7 +216,9 @@ class Modules {
  public:
   // Takes over what GenerateBarcodeString gave. REQUIRES: not null.
   explicit Modules(char* letters) : letters_(letters) {}
+  // The letters, valid as long as this object.
   std::string_view View() const { return letters_.get(); }
+  // The letters with a NUL behind them.
   const char* c_str() const { return letters_.get(); }
 
  private:
@@ -212,14 +232,14 @@ inline std::optional<Fill> Own(FillBufferInfo* info) {
 }
 
 // The C interface would take the text up to a NUL inside and mark less than was asked for.
-inline bool HasNulInside(TextView text) { return text.find(BarhatchChar{}) != TextView::npos; }
+inline bool HasNulInside(const Text& text) { return text.find(BarhatchChar{}) != Text::npos; }
 
 }  // namespace internal
 
 // Puts every setting to its default. Call it once, before anything else.
 inline void Initialise() { InitBarcode(); }
 
-// The values of the barcode stay in force as settings.
+// The fill of a linear barcode. The values of the barcode stay in force as settings.
 inline std::optional<Fill> Generate(const LinearBarcode& barcode) {
   if (internal::HasNulInside(barcode.text)) return std::nullopt;
   LinearBarcodeInfo info{};
@@ -235,6 +255,7 @@ inline std::optional<Fill> Generate(const LinearBarcode& barcode) {
   return internal::Own(GenerateLinearBarcode(&info));
 }
 
+// The fill of a Data Matrix. The values of the record stay in force as settings.
 inline std::optional<Fill> Generate(const DataMatrix& matrix) {
   if (internal::HasNulInside(matrix.text)) return std::nullopt;
   DataMatrixBarcodeInfo info{};
