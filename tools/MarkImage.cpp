@@ -49,13 +49,13 @@ class CoverageMap {
   std::vector<float> coverage_;
 };
 
-Mark StrokeMark(double xa, double ya, double xb, double yb, const View& view) {
-  const double across = view.beam / 2;
-  const double along = view.ends == StrokeEnds::kProjecting ? across : 0.0;
-  const double dx = ya == yb ? along : across;
-  const double dy = ya == yb ? across : along;
-  return {std::min(xa, xb) - dx, std::min(ya, yb) - dy, std::max(xa, xb) + dx,
-          std::max(ya, yb) + dy};
+Mark MarkOf(const Stroke& stroke, const Look& look) {
+  const double across = look.beam / 2;
+  const double along = look.ends == StrokeEnds::kProjecting ? across : 0.0;
+  const double dx = stroke.y0 == stroke.y1 ? along : across;
+  const double dy = stroke.y0 == stroke.y1 ? across : along;
+  return {std::min(stroke.x0, stroke.x1) - dx, std::min(stroke.y0, stroke.y1) - dy,
+          std::max(stroke.x0, stroke.x1) + dx, std::max(stroke.y0, stroke.y1) + dy};
 }
 
 void AppendDisc(double x, double y, double radius, std::vector<Mark>& marks) {
@@ -70,34 +70,33 @@ void AppendDisc(double x, double y, double radius, std::vector<Mark>& marks) {
 
 }  // namespace
 
-std::vector<Mark> MarksOf(const FillBufferInfo& fill, const View& view) {
+std::vector<Mark> MarksOf(const Drawing& drawing, const Look& look) {
   std::vector<Mark> marks;
-  const double* c = fill.FilledArray;
-  if (fill.FillingShapeType == 2) {
-    for (std::int32_t i = 0; i + 1 < fill.BufferLength; i += 2) {
-      AppendDisc(c[i], c[i + 1], view.beam / 2, marks);
-    }
-  } else {
-    for (std::int32_t i = 0; i + 3 < fill.BufferLength; i += 4) {
-      marks.push_back(StrokeMark(c[i], c[i + 1], c[i + 2], c[i + 3], view));
+  for (const Stroke& stroke : drawing.marks) {
+    if (drawing.kind == MarkKind::kPoints) {
+      AppendDisc(stroke.x0, stroke.y0, look.beam / 2, marks);
+    } else {
+      marks.push_back(MarkOf(stroke, look));
     }
   }
   return marks;
 }
 
-Picture Draw(const std::vector<Mark>& marks, const View& view, double pixelsPerUnit) {
+Picture Draw(const Drawing& drawing, const Look& look, double pixelsPerUnit) {
   const auto pixels = [&](double length) {
-    return static_cast<std::uint32_t>(std::ceil((length + 2 * view.margin) * pixelsPerUnit));
+    return static_cast<std::uint32_t>(std::ceil((length + 2 * look.margin) * pixelsPerUnit));
   };
-  Picture picture{pixels(view.width), pixels(view.height), {}};
+  Picture picture{pixels(drawing.width), pixels(drawing.height), {}};
   CoverageMap map(picture.width, picture.height);
-  const auto column = [&](double x) { return (x + view.margin) * pixelsPerUnit; };
-  const auto row = [&](double y) { return (view.height + view.margin - y) * pixelsPerUnit; };
-  for (const Mark& m : marks) map.Cover(column(m.left), row(m.top), column(m.right), row(m.bottom));
+  const auto column = [&](double x) { return (x + look.margin) * pixelsPerUnit; };
+  const auto row = [&](double y) { return (drawing.height + look.margin - y) * pixelsPerUnit; };
+  for (const Mark& m : MarksOf(drawing, look)) {
+    map.Cover(column(m.left), row(m.top), column(m.right), row(m.bottom));
+  }
   picture.pixels.resize(map.Size());
   for (std::size_t i = 0; i < map.Size(); ++i) {
     const float marked = map.At(i);
-    const float light = view.part == Part::kLight ? 1.0f - marked : marked;
+    const float light = look.part == Part::kLight ? 1.0f - marked : marked;
     picture.pixels[i] = static_cast<std::uint8_t>(std::lround(light * 255.0f));
   }
   return picture;

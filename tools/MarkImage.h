@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "barhatch.h"
+#include "Drawing.h"
 
 namespace preview {
 
@@ -15,12 +15,10 @@ enum class Part { kLight, kDark };  // dark marks on a light part, or light mark
 // radius late and early, or half a beam beyond them, as it stays on around the corners of a spiral.
 enum class StrokeEnds { kFlush, kProjecting };
 
-// The piece of the part that a picture shows: the symbol with a margin all around.
-struct View {
-  double width;   // of the symbol
-  double height;  // of the symbol
-  double margin;  // on every side
-  double beam;    // width of a stroke, diameter of a dot
+// How a picture shows the marks: a margin all around, the width of a stroke or diameter of a dot.
+struct Look {
+  double margin;
+  double beam;
   Part part;
   StrokeEnds ends;
 };
@@ -31,9 +29,8 @@ struct Mark {
   double left, bottom, right, top;
 };
 
-// The marks of a fill in drawing order; a point becomes a disc as wide as the beam, in narrow
-// slices.
-std::vector<Mark> MarksOf(const FillBufferInfo& fill, const View& view);
+// The marks in drawing order; a point becomes a disc as wide as the beam, in narrow slices.
+std::vector<Mark> MarksOf(const Drawing& drawing, const Look& look);
 
 // An 8-bit grey picture, top row first. Every pixel is as dark (or light) as its area is covered by
 // marks.
@@ -42,7 +39,7 @@ struct Picture {
   std::uint32_t height;
   std::vector<std::uint8_t> pixels;
 };
-Picture Draw(const std::vector<Mark>& marks, const View& view, double pixelsPerUnit);
+Picture Draw(const Drawing& drawing, const Look& look, double pixelsPerUnit);
 
 }  // namespace preview
 

@@ -18,7 +18,8 @@ std::optional<Reading> ReadBack(const Picture& picture) {
   hints.setEanAddOnSymbol(ZXing::EanAddOnSymbol::Read);
   const ZXing::Result result = ZXing::ReadBarcode(view, hints);
   if (!result.isValid()) return std::nullopt;
-  return Reading{"zxing-cpp", ZXing::ToString(result.format()), result.text()};
+  const std::string bytes(result.bytes().begin(), result.bytes().end());
+  return Reading{"zxing-cpp", ZXing::ToString(result.format()), result.text(), bytes};
 }
 
 #else

@@ -13,7 +13,8 @@ namespace preview {
 struct Reading {
   std::string reader;  // "zxing-cpp"
   std::string format;  // "Code39"
-  std::string text;
+  std::string text;    // UTF-8
+  std::string bytes;   // as they are in the symbol, where the reader tells
 };
 
 // True when the program was built with a reader.

@@ -4,14 +4,13 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
-#include <vector>
 
+#include "BarcodeText.h"
 #include "barhatch.h"
 
 namespace preview {
-
-enum class Kind { kLinear, kDataMatrix };
 
 struct Request {
   Kind kind = Kind::kLinear;
@@ -34,11 +33,14 @@ struct FillRelease {
 };
 using Fill = std::unique_ptr<FillBufferInfo, FillRelease>;
 
-// UTF-8 as 16-bit units with their NUL. Characters beyond U+FFFF become surrogate pairs, broken
-// sequences U+FFFD.
-std::vector<BarhatchChar> ToUnits(const std::string& utf8);
+// UTF-8 as 16-bit units, surrogate pairs beyond U+FFFF. Nothing where it is no UTF-8 or holds a
+// NUL: a mark is made of the whole text or not at all.
+std::optional<std::u16string> ToUnits(const std::string& utf8);
 
-// Null when the library refuses.
+// What the rules of the texts look at. REQUIRES: text that ToUnits takes.
+BarcodeText TextOf(const Request& request);
+
+// Null when the library refuses. REQUIRES: text that ToUnits takes.
 Fill Generate(const Request& request);
 
 // "code39" or "datamatrix".
@@ -48,8 +50,8 @@ std::string NameOf(const Request& request);
 // cells are square, and both extents of a matrix are its size less two cells.
 double WidthOf(const Request& request, const FillBufferInfo& fill);
 
-// Why Generate gave null, as far as a host can tell.
-std::string WhyRefused(const Request& request);
+// Width of one module: the X dimension. 0 where there is no symbol.
+double ModuleSizeOf(const Request& request, const FillBufferInfo& fill);
 
 }  // namespace preview
 

@@ -1,0 +1,168 @@
+#include "Batch.h"
+
+#include <fmt/core.h>
+
+#include <algorithm>
+#include <fstream>
+#include <iostream>
+#include <map>
+
+#include "Messages.h"
+#include "Outputs.h"
+#include "Progress.h"
+#include "Symbol.h"
+
+namespace preview {
+
+namespace {
+
+constexpr const char* kByteOrderMark = "\xEF\xBB\xBF";
+constexpr std::size_t kLongestNamePart = 60;
+
+std::string NamePart(const std::string& text) {
+  std::string part = text.substr(0, kLongestNamePart);
+  for (char& c : part) {
+    const bool isKept = (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    if (!isKept && c != '-' && c != '.' && c != '_') c = '_';
+  }
+  return part;
+}
+
+void ReplaceAll(std::string& text, const std::string& what, const std::string& by) {
+  for (std::size_t at = text.find(what); at != std::string::npos;
+       at = text.find(what, at + by.size())) {
+    text.replace(at, what.size(), by);
+  }
+}
+
+class BatchRun {
+ public:
+  BatchRun(const Options& options, std::size_t lines) : options_(options), progress_(lines) {}
+
+  int Run(const std::vector<BatchLine>& lines) {
+    for (std::size_t i = 0; i < lines.size(); ++i) {
+      progress_.Show(i);
+      RunLine(lines[i]);
+    }
+    progress_.Clear();
+    if (options_.sheet) WriteSheet();
+    if (!options_.quiet) {
+      fmt::print("{} texts: {} marked, {} refused\n", lines.size(), marked_,
+                 lines.size() - marked_);
+    }
+    return code_;
+  }
+
+ private:
+  void Fail(const BatchLine& line, int code, const std::string& text) {
+    progress_.Clear();
+    PrintError(fmt::format("line {}: {}", line.number, text));
+    // A refusal outweighs a symbol that is not read.
+    code_ = code_ == kRefused ? kRefused : code;
+  }
+
+  void Tell(const std::string& text) {
+    if (options_.quiet) return;
+    progress_.Clear();
+    fmt::print("{}", text);
+  }
+
+  void RunLine(const BatchLine& line) {
+    Request request = options_.request;
+    request.text = line.text;
+    if (options_.explain) Tell(fmt::format("{}: {}", line.number, ExplanationText(request)));
+    std::string reason;
+    std::optional<Symbol> symbol = MakeSymbol(request, reason);
+    if (!symbol) return Fail(line, kRefused, reason);
+    ++marked_;
+    if (!options_.explain) {
+      Tell(fmt::format("{}: {}\n", line.number, Headline(*symbol, options_.speeds)));
+    }
+    if (options_.verify) VerifyLine(line, *symbol);
+    if (options_.sheet) {
+      widest_ = std::max(widest_, symbol->drawing.width);
+      drawings_.push_back(std::move(symbol->drawing));
+    } else {
+      WriteLine(line, *symbol);
+    }
+  }
+
+  void VerifyLine(const BatchLine& line, const Symbol& symbol) {
+    const Verdict verdict = Verify(symbol, options_);
+    if (!verdict.isRead) return Fail(line, kReadsOtherwise, verdict.sentence);
+    Tell(fmt::format("{}: {}\n", line.number, verdict.sentence));
+  }
+
+  void WriteLine(const BatchLine& line, const Symbol& symbol) {
+    for (const std::string& pattern : options_.outputs) {
+      const std::string path = PathOf(pattern, line);
+      const auto [other, isNew] = written_.emplace(path, line.number);
+      const std::string reason =
+          isNew
+              ? WriteOutput(path, symbol.drawing, LookOf(options_, symbol.drawing.width), options_)
+              : fmt::format("{} is the file of line {} already", path, other->second);
+      if (!reason.empty()) Fail(line, kRefused, reason);
+    }
+  }
+
+  void WriteSheet() {
+    if (drawings_.empty()) return PrintError("no symbol for the sheet");
+    const Drawing sheet = SheetOf(drawings_, options_.columns);
+    for (const std::string& path : options_.outputs) {
+      const std::string reason = WriteOutput(path, sheet, LookOf(options_, widest_), options_);
+      if (reason.empty()) continue;
+      PrintError(reason);
+      code_ = kRefused;
+    }
+    Tell(Report(StatisticsOf(sheet, options_.speeds), options_.speeds));
+  }
+
+  const Options& options_;
+  Progress progress_;
+  std::size_t marked_ = 0;
+  int code_ = kDone;
+  double widest_ = 0.0;
+  std::vector<Drawing> drawings_;
+  std::map<std::string, std::size_t> written_;  // the line of each file
+};
+
+}  // namespace
+
+std::vector<BatchLine> ReadBatch(std::istream& in) {
+  std::vector<BatchLine> lines;
+  std::string text;
+  for (std::size_t number = 1; std::getline(in, text); ++number) {
+    if (number == 1 && text.compare(0, 3, kByteOrderMark) == 0) text.erase(0, 3);
+    if (!text.empty() && text.back() == '\r') text.pop_back();
+    if (!text.empty()) lines.push_back({number, text});
+  }
+  return lines;
+}
+
+std::string PathOf(const std::string& pattern, const BatchLine& line) {
+  std::string path = pattern;
+  ReplaceAll(path, "{n}", fmt::format("{:03}", line.number));
+  ReplaceAll(path, "{text}", NamePart(line.text));
+  return path;
+}
+
+int RunBatch(const Options& options) {
+  std::vector<BatchLine> lines;
+  if (options.batch == "-") {
+    lines = ReadBatch(std::cin);
+  } else {
+    std::ifstream file(options.batch, std::ios::binary);
+    if (file) lines = ReadBatch(file);
+    if (!file.eof()) {
+      PrintError("cannot read " + options.batch);
+      return kRefused;
+    }
+  }
+  if (lines.empty()) {
+    PrintError("the batch has no texts");
+    return kRefused;
+  }
+  return BatchRun(options, lines.size()).Run(lines);
+}
+
+}  // namespace preview

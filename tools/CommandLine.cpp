@@ -1,0 +1,269 @@
+#include "CommandLine.h"
+
+#include <fmt/core.h>
+
+#include <CLI/CLI.hpp>
+
+#include "Messages.h"
+#include "TextRules.h"
+
+namespace preview {
+
+namespace {
+
+constexpr const char* kDataMatrixName = "datamatrix";
+constexpr int kPoints = 6;
+
+constexpr const char* kFooter =
+    "Lengths are in millimetres, texts in UTF-8. A text that begins with - goes behind --.\n"
+    "The ending of an output says what it is: .svg .png pictures, .csv the strokes, .dxf a "
+    "drawing,\n"
+    ".gcode .nc a program for an engraver. With --batch, {n} in its name is the number of the "
+    "line\n"
+    "and {text} its text.\n"
+    "Exit codes: 0 done; 1 a text was refused or a file could not be read or written; 2 bad\n"
+    "arguments; 3 a symbol was not read back as its text.\n"
+    "barhatch --list shows the types.";
+
+void SetType(const std::string& text, Request& request) {
+  if (text == kDataMatrixName) {
+    request.kind = Kind::kDataMatrix;
+  } else {
+    request.type = *LinearTypeFrom(text);
+  }
+}
+
+std::string CheckType(const std::string& text) {
+  if (text == kDataMatrixName || LinearTypeFrom(text)) return "";
+  return "no barcode type \"" + text + "\" (see --list)";
+}
+
+// "16x48" as rows x 256 + columns; nothing for anything else.
+std::optional<std::int32_t> MatrixSizeFrom(const std::string& text) {
+  const std::size_t x = text.find('x');
+  std::int32_t rows = 0;
+  std::int32_t columns = 0;
+  if (x == std::string::npos || !CLI::detail::lexical_cast(text.substr(0, x), rows) ||
+      !CLI::detail::lexical_cast(text.substr(x + 1), columns)) {
+    return std::nullopt;
+  }
+  if (rows < 1 || rows > 255 || columns < 1 || columns > 255) return std::nullopt;
+  return rows * 256 + columns;
+}
+
+std::string CheckMatrixSize(const std::string& text) {
+  return MatrixSizeFrom(text) ? "" : "\"" + text + "\" is not a size such as 16x48";
+}
+
+std::string CheckOutput(const std::string& path) {
+  for (const char* ending : {".svg", ".png", ".csv", ".dxf", ".gcode", ".nc"}) {
+    if (HasEnding(path, ending)) return "";
+  }
+  return "output \"" + path + "\" is none of .svg .png .csv .dxf .gcode .nc";
+}
+
+std::string CheckAboveZero(const std::string& text) {
+  double value = 0.0;
+  if (!CLI::detail::lexical_cast(text, value) || !(value > 0.0) || value > 1e9) {
+    return "\"" + text + "\" is not a number above zero";
+  }
+  return "";
+}
+
+CLI::Option* AddLength(CLI::App& app, const char* name, double& value, const char* description) {
+  return app.add_option(name, value, description)->check(CheckAboveZero);
+}
+
+void DescribeSymbol(CLI::App& app, Options& options) {
+  Request& request = options.request;
+  app.add_option("text", request.text, "text of the barcode")->group("Symbol");
+  app.add_option_function<std::string>(
+         "-t,--type", [&](const std::string& text) { SetType(text, request); },
+         "type by number or name (default code39)")
+      ->check(CheckType);
+  AddLength(app, "-W,--width", request.width, "width of the whole symbol")->capture_default_str();
+  AddLength(app, "-H,--height", request.height, "height of the bars, or of a Data Matrix")
+      ->capture_default_str();
+  AddLength(app, "-r,--ratio", request.ratio, "width of a wide element in modules")
+      ->capture_default_str();
+  app.add_flag("-q,--quiet-zone", request.quietZone, "add the quiet zones of the symbology");
+  app.add_option_function<std::string>(
+         "--size",
+         [&](const std::string& text) {
+           request.matrixSize = *MatrixSizeFrom(text);
+           request.expand = false;
+         },
+         "size of a Data Matrix, rows x columns (default: the smallest square)")
+      ->check(CheckMatrixSize);
+  app.add_flag("--expand", "the Data Matrix may grow beyond --size");
+  app.add_option("--format", request.format,
+                 "code format of a Data Matrix: 1 FNC1 second, 2 and 3 macro headers")
+      ->check(CLI::Range(0, 3));
+}
+
+void DescribeMarking(CLI::App& app, Options& options) {
+  Request& request = options.request;
+  app.add_option("-p,--pattern", request.pattern,
+                 "0 scan lines, 1 vertical, 2 horizontal alternating, 3 vertical alternating, 5 "
+                 "spiral, 6 points")
+      ->check(CLI::Range(0, 6))
+      ->capture_default_str();
+  AddLength(app, "-g,--gap", request.gap, "pitch of the strokes")->capture_default_str();
+  app.add_flag("-i,--invert", request.invert, "fill the light elements instead of the dark ones");
+  AddLength(app, "--mark-speed,--feed", options.speeds.mark, "marking speed, mm/s")
+      ->capture_default_str();
+  AddLength(app, "--jump-speed,--travel-speed", options.speeds.jump, "speed between strokes, mm/s")
+      ->capture_default_str();
+  AddLength(app, "--dwell", options.speeds.dwell, "time at each point, ms")->capture_default_str();
+  app.add_option("--power", options.laser.power, "S word of G-code, in the controller's measure")
+      ->check(CLI::Range(0.0, 1e6))
+      ->capture_default_str();
+  app.add_option_function<std::string>(
+         "--laser",
+         [&](const std::string& word) {
+           options.laser.mode = word == "M4" ? LaserMode::kDynamic : LaserMode::kConstant;
+         },
+         "M3 constant or M4 dynamic power in G-code (default M3)")
+      ->check(CLI::IsMember({"M3", "M4"}));
+}
+
+void DescribeOutput(CLI::App& app, Options& options) {
+  app.add_option("-o,--output", options.outputs, "file to write; may be given several times")
+      ->check(CheckOutput)
+      ->expected(1)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+  app.add_flag("--animate", options.animate, "the SVG draws the strokes in marking order");
+  app.add_flag("--dark-part", options.darkPart,
+               "light marks on a dark part instead of dark marks on a light one");
+  AddLength(app, "--beam", options.beam, "width of a stroke in pictures (default: the gap)");
+  app.add_option("--margin", options.margin,
+                 "margin of pictures (default: a tenth of the symbol's width)")
+      ->check(CLI::Range(0.0, 1e9));
+  AddLength(app, "--pixels-per-unit", options.pixelsPerUnit,
+            "resolution of a PNG (default: 1600 pixels across)");
+}
+
+void DescribeTasks(CLI::App& app, Options& options) {
+  app.add_option("--batch", options.batch, "texts from a file, one a line; - for standard input");
+  app.add_flag("--sheet", options.sheet, "all symbols of the batch in one file, with captions");
+  app.add_option("--columns", options.columns, "symbols side by side on the sheet")
+      ->check(CLI::Range(1, 1000))
+      ->capture_default_str();
+  app.add_flag("--explain", options.explain,
+               "say why a text is refused, or which departures from a standard touch it");
+  app.add_flag("--verify", options.verify, "read the drawn symbol back with an independent reader");
+  app.add_flag("--list", options.list, "show the types");
+  app.add_option("--table", options.table, "print a table of the documents: types or departures")
+      ->check(CLI::IsMember({"types", "departures"}));
+  app.add_flag("-Q,--quiet", options.quiet, "print no statistics");
+  app.set_version_flag("--version", "barhatch " BARHATCH_VERSION);
+  app.footer(kFooter);
+}
+
+bool HasOutput(const Options& options, std::initializer_list<const char*> endings) {
+  for (const std::string& path : options.outputs) {
+    for (const char* ending : endings) {
+      if (HasEnding(path, ending)) return true;
+    }
+  }
+  return false;
+}
+
+bool IsMatrix(const Options& o) { return o.request.kind == Kind::kDataMatrix; }
+bool IsLinear(const Options& o) { return !IsMatrix(o); }
+bool HasWideElements(const Options& o) {
+  return IsLinear(o) && RuleOf(o.request.type).widths == Widths::kNarrowAndWide;
+}
+bool HasSvg(const Options& o) { return HasOutput(o, {".svg"}); }
+bool HasPixels(const Options& o) { return o.verify || HasOutput(o, {".png"}); }
+bool HasPicture(const Options& o) { return HasSvg(o) || HasPixels(o); }
+bool HasGcode(const Options& o) { return HasOutput(o, {".gcode", ".nc"}); }
+bool MarksPoints(const Options& o) { return o.request.pattern == kPoints; }
+bool MarksStrokes(const Options& o) { return !MarksPoints(o); }
+bool HasBatch(const Options& o) { return !o.batch.empty(); }
+bool HasSheet(const Options& o) { return o.sheet; }
+
+// Where an option has an effect.
+struct Applicability {
+  const char* option;
+  bool (*applies)(const Options& options);
+  const char* where;
+};
+constexpr Applicability kApplicabilities[] = {
+    {"--width", IsLinear, "a linear type; a Data Matrix takes its size from --height"},
+    {"--ratio", HasWideElements, "the types with wide elements: codabar, code39, code11, itf"},
+    {"--size", IsMatrix, "a Data Matrix"},
+    {"--expand", IsMatrix, "a Data Matrix"},
+    {"--format", IsMatrix, "a Data Matrix"},
+    {"--animate", HasSvg, "an SVG"},
+    {"--dark-part", HasPicture, "a picture (.svg, .png, --verify)"},
+    {"--beam", HasPicture, "a picture (.svg, .png, --verify)"},
+    {"--margin", HasPicture, "a picture (.svg, .png, --verify)"},
+    {"--pixels-per-unit", HasPixels, "a PNG or --verify"},
+    {"--power", HasGcode, "G-code (.gcode, .nc)"},
+    {"--laser", HasGcode, "G-code (.gcode, .nc)"},
+    {"--dwell", MarksPoints, "points (--pattern 6)"},
+    {"--mark-speed", MarksStrokes, "strokes; points have a --dwell"},
+    {"--sheet", HasBatch, "a batch"},
+    {"--columns", HasSheet, "a --sheet"},
+};
+
+std::string WhyBatchIsWrong(const CLI::App& app, const Options& options) {
+  if (app.count("text") > 0) return "a batch takes its texts from the file, not from arguments";
+  if (options.sheet && options.outputs.empty()) return "--sheet needs an --output";
+  if (options.sheet) return "";
+  for (const std::string& path : options.outputs) {
+    if (path.find("{n}") == std::string::npos && path.find("{text}") == std::string::npos) {
+      return "output \"" + path + "\" of a batch needs {n} or {text} in its name, or --sheet";
+    }
+  }
+  return "";
+}
+
+// Empty where everything fits together.
+std::string WhyItIsWrong(const CLI::App& app, const Options& options) {
+  if (options.list || !options.table.empty()) return "";
+  for (const Applicability& row : kApplicabilities) {
+    if (app.count(row.option) > 0 && !row.applies(options)) {
+      return std::string(row.option) + " is for " + row.where;
+    }
+  }
+  if (app.count("--expand") > 0 && app.count("--size") == 0) return "--expand needs a --size";
+  if (MarksPoints(options) && options.laser.mode == LaserMode::kDynamic) {
+    return "--laser M4 is off where the head stands still: points need M3";
+  }
+  if (HasBatch(options)) return WhyBatchIsWrong(app, options);
+  return app.count("text") == 0 ? "a text is required (or --batch, --list, --help)" : "";
+}
+
+}  // namespace
+
+bool HasEnding(const std::string& path, const std::string& ending) {
+  return path.size() >= ending.size() &&
+         path.compare(path.size() - ending.size(), ending.size(), ending) == 0;
+}
+
+std::optional<int> ParseCommandLine(int argc, const char* const* argv, Options& options) {
+  CLI::App app{"Draws the strokes with which a marking head marks a barcode.", "barhatch"};
+  DescribeSymbol(app, options);
+  DescribeMarking(app, options);
+  DescribeOutput(app, options);
+  DescribeTasks(app, options);
+  try {
+    app.parse(argc, argv);
+  } catch (const CLI::CallForHelp& help) {
+    return app.exit(help);
+  } catch (const CLI::CallForVersion& version) {
+    return app.exit(version);
+  } catch (const CLI::ParseError& error) {
+    PrintError(error.what());
+    return kBadArguments;
+  }
+  if (app.count("--expand") > 0) options.request.expand = true;
+  const std::string wrong = WhyItIsWrong(app, options);
+  if (wrong.empty()) return std::nullopt;
+  PrintError(wrong);
+  return kBadArguments;
+}
+
+}  // namespace preview

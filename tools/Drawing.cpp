@@ -1,0 +1,91 @@
+#include "Drawing.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace preview {
+
+namespace {
+
+constexpr double kSpacing = 0.08;         // between symbols, of the widest one
+constexpr double kLeastSpacing = 0.15;    // of the highest one
+constexpr double kCaptionSize = 0.55;     // of the spacing
+constexpr double kCharacterWidth = 0.62;  // of a monospaced font's size
+
+std::size_t CharacterCount(const std::string& utf8) {
+  return static_cast<std::size_t>(
+      std::count_if(utf8.begin(), utf8.end(), [](char c) { return (c & 0xC0) != 0x80; }));
+}
+
+// The text, cut to what the width holds.
+std::string Shortened(const std::string& utf8, std::size_t most) {
+  if (CharacterCount(utf8) <= most) return utf8;
+  std::string shortened;
+  std::size_t count = 0;
+  for (const char c : utf8) {
+    if ((c & 0xC0) != 0x80 && ++count >= most) break;
+    shortened += c;
+  }
+  return shortened + "\u2026";
+}
+
+void Place(const Drawing& part, double x, double y, Drawing& sheet) {
+  for (const Stroke& mark : part.marks) {
+    sheet.marks.push_back({mark.x0 + x, mark.y0 + y, mark.x1 + x, mark.y1 + y});
+  }
+}
+
+}  // namespace
+
+Drawing DrawingOf(const FillBufferInfo& fill, double width, double height, std::string title) {
+  Drawing drawing;
+  drawing.kind = fill.FillingShapeType == 2 ? MarkKind::kPoints : MarkKind::kStrokes;
+  drawing.width = width;
+  drawing.height = height;
+  drawing.title = std::move(title);
+  const int doubles = drawing.kind == MarkKind::kPoints ? 2 : 4;
+  drawing.marks.reserve(static_cast<std::size_t>(fill.BufferLength / doubles));
+  for (const double* c = fill.FilledArray; c < fill.FilledArray + fill.BufferLength; c += doubles) {
+    drawing.marks.push_back({c[0], c[1], c[doubles - 2], c[doubles - 1]});
+  }
+  return drawing;
+}
+
+Drawing SheetOf(const std::vector<Drawing>& drawings, std::size_t columns) {
+  double width = 0.0;
+  double height = 0.0;
+  for (const Drawing& drawing : drawings) {
+    width = std::max(width, drawing.width);
+    height = std::max(height, drawing.height);
+  }
+  const double spacing = std::max(kSpacing * width, kLeastSpacing * height);
+  const double size = kCaptionSize * spacing;
+  const std::size_t rows = (drawings.size() + columns - 1) / columns;
+  const std::size_t used = std::min(columns, drawings.size());
+  const double rowHeight = height + 2 * spacing;
+
+  Drawing sheet;
+  sheet.kind = drawings.front().kind;
+  sheet.width = static_cast<double>(used) * (width + spacing) - spacing;
+  sheet.height = static_cast<double>(rows) * rowHeight - spacing;
+  const auto most = static_cast<std::size_t>(width / (size * kCharacterWidth));
+  for (std::size_t i = 0; i < drawings.size(); ++i) {
+    const double x = static_cast<double>(i % columns) * (width + spacing);
+    const double top = sheet.height - static_cast<double>(i / columns) * rowHeight;
+    const double y = top - drawings[i].height;
+    Place(drawings[i], x, y, sheet);
+    sheet.captions.push_back({x, y - 0.8 * spacing, size, Shortened(drawings[i].title, most)});
+  }
+  return sheet;
+}
+
+double LengthOf(const Stroke& stroke) {
+  return std::hypot(stroke.x1 - stroke.x0, stroke.y1 - stroke.y0);
+}
+
+double TravelBetween(const Stroke& from, const Stroke& to) {
+  return std::hypot(to.x0 - from.x1, to.y0 - from.y1);
+}
+
+}  // namespace preview
