@@ -30,7 +30,7 @@ class Code128Walk {
         outline_.isLastLoneInSetC = true;
         Write(1);
       } else {
-        if (inSetC) inSetC = SwitchToB();
+        if (inSetC) Switch();
         Write(1);
         const std::size_t run = DigitRun(Rest());
         const bool isWorthIt = run >= 4 ? run % 2 == 0 : run == 2 && Rest().size() == 2;

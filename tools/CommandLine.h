@@ -16,21 +16,21 @@ namespace preview {
 struct Options {
   Request request;
   std::vector<std::string> outputs;
+  std::string table;        // "types" or "departures" to print it
+  std::string batch;        // file of texts, "-" for standard input
+  std::size_t columns = 4;  // of the sheet
   Speeds speeds;
   Laser laser;
-  bool animate = false;
-  bool darkPart = false;
   double beam = 0.0;           // 0: as wide as the gap
   double margin = -1.0;        // negative: a tenth of the width
   double pixelsPerUnit = 0.0;  // 0: 1600 pixels across
+  bool animate = false;
+  bool darkPart = false;
+  bool sheet = false;
   bool verify = false;
   bool explain = false;
   bool quiet = false;
   bool list = false;
-  std::string table;  // "types" or "departures" to print it
-  std::string batch;  // file of texts, "-" for standard input
-  bool sheet = false;
-  std::size_t columns = 4;  // of the sheet
 };
 
 // The exit code where the program ends here, with the help, the version or an error printed.

@@ -71,8 +71,9 @@ Drawing SheetOf(const std::vector<Drawing>& drawings, std::size_t columns) {
   sheet.height = static_cast<double>(rows) * rowHeight - spacing;
   const auto most = static_cast<std::size_t>(width / (size * kCharacterWidth));
   for (std::size_t i = 0; i < drawings.size(); ++i) {
+    const std::size_t row = i / columns;
     const double x = static_cast<double>(i % columns) * (width + spacing);
-    const double top = sheet.height - static_cast<double>(i / columns) * rowHeight;
+    const double top = sheet.height - static_cast<double>(row) * rowHeight;
     const double y = top - drawings[i].height;
     Place(drawings[i], x, y, sheet);
     sheet.captions.push_back({x, y - 0.8 * spacing, size, Shortened(drawings[i].title, most)});

@@ -53,7 +53,7 @@ std::string TypeTable() {
   for (std::int32_t type = 0; type < kLinearTypes; ++type) {
     const TypeRule& rule = RuleOf(type);
     table += fmt::format(
-        "| {0} | `{1}` | {2} | {3} | {4} | {5}, {6} | {7} | `{8}`<br>![{2}](images/type{0:02}.png) "
+        "| {0} | `{1}` | {2} | {3} | {4} | {5}, {6} | {7} | `{8}`<br>![{2}](images/type{0:02}.svg) "
         "|\n",
         type, rule.name, rule.title, rule.accepted, rule.checkDigit, rule.leftQuietModules,
         rule.rightQuietModules, rule.capacity, rule.example);

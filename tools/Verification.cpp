@@ -107,7 +107,7 @@ bool IsKnownToReaders(const BarcodeText& text) {
 
 std::string ExpectedReading(const BarcodeText& text) {
   if (text.kind == Kind::kDataMatrix) return MatrixReading(text);
-  const std::string narrow = NarrowText(text.units);
+  std::string narrow = NarrowText(text.units);
   if (MainDigitsOf(text.type) > 0) return EanUpcReading(text.type, narrow);
   if (text.type == 21 && narrow.size() % 2 != 0) return '0' + narrow;
   if (text.type == 0 && narrow.size() > 2) return narrow.substr(1, narrow.size() - 2);
