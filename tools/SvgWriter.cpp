@@ -8,7 +8,9 @@ namespace preview {
 
 namespace {
 
-constexpr double kPixelsWide = 1000.0;  // on the screen; the drawing is in the host's units
+// On the screen; the drawing is in the host's units. A sheet is as high as its rows.
+constexpr double kPixelsWide = 1000.0;
+constexpr double kPixelsHigh = 700.0;
 constexpr double kShortestAnimation = 2.0;
 constexpr double kLongestAnimation = 12.0;
 
@@ -81,10 +83,13 @@ class Svg {
   void WriteHead() {
     const double width = drawing_.width + 2 * look_.margin;
     const double height = drawing_.height + 2 * look_.margin;
+    const double perUnit = drawing_.captions.empty()
+                               ? std::min(kPixelsWide / width, kPixelsHigh / height)
+                               : kPixelsWide / width;
     text_ += fmt::format(
         "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"{:.10g}\" height=\"{:.10g}\" "
         "viewBox=\"0 0 {:.10g} {:.10g}\">\n",
-        kPixelsWide, kPixelsWide * height / width, width, height);
+        width * perUnit, height * perUnit, width, height);
     if (!drawing_.title.empty()) text_ += "<title>" + Escaped(drawing_.title) + "</title>\n";
     text_ += fmt::format("<rect width=\"{:.10g}\" height=\"{:.10g}\" fill=\"{}\"/>\n", width,
                          height, PartColour());

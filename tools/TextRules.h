@@ -24,6 +24,7 @@ struct TypeRule {
   const char* title;     // of the symbology
   const char* accepted;  // in Markdown
   Alphabet alphabet;
+  Widths widths;
   std::size_t shortest;
   std::size_t longest;
   const char* checkDigit;
@@ -31,7 +32,6 @@ struct TypeRule {
   int rightQuietModules;
   const char* capacity;
   const char* example;
-  Widths widths;
 };
 
 constexpr std::int32_t kLinearTypes = 23;
