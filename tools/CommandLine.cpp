@@ -130,8 +130,7 @@ void DescribeMarking(CLI::App& app, Options& options) {
 void DescribeOutput(CLI::App& app, Options& options) {
   app.add_option("-o,--output", options.outputs, "file to write; may be given several times")
       ->check(CheckOutput)
-      ->expected(1)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+      ->allow_extra_args(false);
   app.add_flag("--animate", options.animate, "the SVG draws the strokes in marking order");
   app.add_flag("--dark-part", options.darkPart,
                "light marks on a dark part instead of dark marks on a light one");

@@ -183,8 +183,8 @@ std::optional<std::string> WhyRefused(std::int32_t type, const std::u16string& u
   const std::string text = NarrowText(units);
   for (std::size_t i = 0; i < text.size(); ++i) {
     if (TakesAt(type, text, i)) continue;
-    return fmt::format("character {}, {}, is none of {}", i + 1, CharacterName(units[i]),
-                       Description(rule.alphabet));
+    return fmt::format("{} takes {}; character {} is {}", rule.name, Description(rule.alphabet),
+                       i + 1, CharacterName(units[i]));
   }
   std::size_t length = text.size();
   if (type == kCode39) length -= CollapsedPercentPairs(text);

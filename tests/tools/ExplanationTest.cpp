@@ -200,7 +200,7 @@ TEST(Explanation, DataMatrixTextsAroundEveryCapacity) {
 
 TEST(Explanation, SaysWhyInASentence) {
   EXPECT_EQ(Explain(Linear(1, u"abc")).reason,
-            "character 1, 'a', is none of digits, A to Z, - . $ / + % * and space");
+            "code39 takes digits, A to Z, - . $ / + % * and space; character 1 is 'a'");
   EXPECT_EQ(Explain(Linear(3, u"123")).reason, "ean13 takes 12 characters, not 3");
   EXPECT_EQ(Explain(Linear(0, u"")).reason, "codabar takes no empty text");
   EXPECT_EQ(Explain(Linear(10, u"2345678")).reason,
