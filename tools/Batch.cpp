@@ -46,10 +46,8 @@ class BatchRun {
     }
     progress_.Clear();
     if (options_.sheet) WriteSheet();
-    if (!options_.quiet) {
-      fmt::print("{} texts: {} marked, {} refused\n", lines.size(), marked_,
-                 lines.size() - marked_);
-    }
+    TellUnlessQuiet(fmt::format("{} texts: {} marked, {} refused\n", lines.size(), marked_,
+                                lines.size() - marked_));
     return code_;
   }
 
@@ -62,9 +60,12 @@ class BatchRun {
   }
 
   void Tell(const std::string& text) {
-    if (options_.quiet) return;
     progress_.Clear();
     fmt::print("{}", text);
+  }
+
+  void TellUnlessQuiet(const std::string& text) {
+    if (!options_.quiet) Tell(text);
   }
 
   void RunLine(const BatchLine& line) {
@@ -76,7 +77,7 @@ class BatchRun {
     if (!symbol) return Fail(line, kRefused, reason);
     ++marked_;
     if (!options_.explain) {
-      Tell(fmt::format("{}: {}\n", line.number, Headline(*symbol, options_.speeds)));
+      TellUnlessQuiet(fmt::format("{}: {}\n", line.number, Headline(*symbol, options_.speeds)));
     }
     if (options_.verify) VerifyLine(line, *symbol);
     if (options_.sheet) {
@@ -114,7 +115,7 @@ class BatchRun {
       PrintError(reason);
       code_ = kRefused;
     }
-    Tell(Report(StatisticsOf(sheet, options_.speeds), options_.speeds));
+    TellUnlessQuiet(Report(StatisticsOf(sheet, options_.speeds), options_.speeds));
   }
 
   const Options& options_;

@@ -36,6 +36,23 @@ std::string Ids(const std::vector<const Departure*>& departures) {
   return ids;
 }
 
+// The resolution of the pictures first. Readers of bars lose thin ones between two pixels, so then
+// a module is made of whole pixels.
+std::vector<double> ResolutionsToRead(const Symbol& symbol, const Options& options) {
+  if (options.pixelsPerUnit > 0.0) return {options.pixelsPerUnit};
+  return {0.0, 6.0 / symbol.moduleSize, 4.0 / symbol.moduleSize, 9.0 / symbol.moduleSize};
+}
+
+Verdict VerifyAt(const Symbol& symbol, const Options& options, double pixelsPerUnit) {
+  Options resolved = options;
+  resolved.pixelsPerUnit = pixelsPerUnit;
+  std::string reason;
+  const Look look = LookOf(options, symbol.drawing.width);
+  const std::optional<Picture> picture = PictureOf(symbol.drawing, look, resolved, reason);
+  if (!picture) return {false, reason};
+  return Judge(TextOf(symbol.request), ReadBack(*picture));
+}
+
 std::string Fact(const char* name, const std::string& value) {
   return fmt::format("  {:<14}{}\n", name, value);
 }
@@ -104,11 +121,13 @@ std::string ExplanationText(const Request& request) {
 
 Verdict Verify(const Symbol& symbol, const Options& options) {
   if (!CanReadBack()) return {false, "built without a reader, cannot verify"};
-  std::string reason;
-  const std::optional<Picture> picture =
-      PictureOf(symbol.drawing, LookOf(options, symbol.drawing.width), options, reason);
-  if (!picture) return {false, reason};
-  return Judge(TextOf(symbol.request), ReadBack(*picture));
+  std::optional<Verdict> first;
+  for (const double resolution : ResolutionsToRead(symbol, options)) {
+    const Verdict verdict = VerifyAt(symbol, options, resolution);
+    if (verdict.isRead) return verdict;
+    if (!first) first = verdict;
+  }
+  return *first;
 }
 
 }  // namespace preview

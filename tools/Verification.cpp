@@ -82,9 +82,15 @@ std::string Utf8Of(const std::string& latin1) {
   return utf8;
 }
 
+// EAN-13 with a 0 in front is UPC-A, and readers may tell it without the 0.
+bool IsToldAsUpcA(const BarcodeText& text, const std::string& expected) {
+  return text.kind == Kind::kLinear && MainDigitsOf(text.type) == 12 && expected[0] == '0';
+}
+
 bool IsAsExpected(const BarcodeText& text, const Reading& reading) {
   const std::string expected = ExpectedReading(text);
   if (reading.bytes == expected || reading.text == Utf8Of(expected)) return true;
+  if (IsToldAsUpcA(text, expected) && reading.text == expected.substr(1)) return true;
   const bool hasFnc1 = text.kind == Kind::kDataMatrix && text.format == 1;
   return hasFnc1 && WithoutFnc1(reading.bytes) == WithoutFnc1(expected);
 }

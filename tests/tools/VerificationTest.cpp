@@ -81,6 +81,13 @@ TEST(Verification, NamesTheDepartureThatExplainsADifference) {
       << "a departure that readers do not notice is no reason";
 }
 
+TEST(Verification, TakesEan13WithALeadingZeroAsUpcA) {
+  EXPECT_TRUE(Judge(Linear(3, u"003600029145"), ReadingOf("036000291452")).isRead);
+  EXPECT_TRUE(Judge(Linear(3, u"003600029145"), ReadingOf("0036000291452")).isRead);
+  EXPECT_FALSE(Judge(Linear(12, u"0123456"), ReadingOf("1234565")).isRead)
+      << "EAN-8 has no other name";
+}
+
 TEST(Verification, TakesFnc1AndBytesAsTheReaderTellsThem) {
   EXPECT_TRUE(Judge(Matrix(u"12A", 1), ReadingOf("12\x1D"
                                                  "A"))
