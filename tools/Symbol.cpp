@@ -123,7 +123,7 @@ Verdict Verify(const Symbol& symbol, const Options& options) {
   if (!CanReadBack()) return {false, "built without a reader, cannot verify"};
   std::optional<Verdict> first;
   for (const double resolution : ResolutionsToRead(symbol, options)) {
-    const Verdict verdict = VerifyAt(symbol, options, resolution);
+    Verdict verdict = VerifyAt(symbol, options, resolution);
     if (verdict.isRead) return verdict;
     if (!first) first = verdict;
   }
