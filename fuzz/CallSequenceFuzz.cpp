@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <memory>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "CallWatch.h"
@@ -11,10 +12,10 @@
 #include "Results.h"
 #include "api/BarcodeSettings.h"
 #include "barhatch.h"
+#include "datamatrix/DataMatrixEncoder.h"
 
 namespace {
 
-using barhatch::fuzz::BytesOf;
 using barhatch::fuzz::CallWatch;
 using barhatch::fuzz::Demand;
 using barhatch::fuzz::FuzzInput;
@@ -24,20 +25,46 @@ struct FillRelease {
 };
 using OwnedFill = std::unique_ptr<FillBufferInfo, FillRelease>;
 
+struct GridRelease {
+  void operator()(TwoDStringResult* grid) const { Free2DBarcodeStringResult(grid); }
+};
+using OwnedGrid = std::unique_ptr<TwoDStringResult, GridRelease>;
+
 constexpr std::size_t kMostCalls = 24;
 constexpr std::size_t kLongestText = 3200;  // the limits of 3116 and 3119 lie inside
-// Beside the result: the module string of a text of 3119 units, one rectangle of 40 bytes and one
-// spare stroke for each of its bars.
-constexpr std::size_t kWorkBytes = 8u << 20;
+constexpr std::size_t kLongestLinearText = 3119;
+
+// What documented defaults are, once more.
+void DemandDefaults() {
+  const barhatch::BarcodeSettings& settings = barhatch::CurrentSettings();
+  Demand(settings.type == 0 && settings.DataString == std::u16string_view(u"123"), "text 123");
+  Demand(!settings.DataStringRefused, "the default text is a text");
+  Demand(settings.width == 1.0 && settings.height == 0.5, "1.0 x 0.5");
+  Demand(settings.PrintRatio == 3.0 && settings.InvertImage == 0, "ratio 3, not inverted");
+  Demand(settings.HatchingType == 0 && settings.LineGap == 0.0001, "scan lines");
+  Demand(settings.QuietZone == 0 && settings.IsExpanding == 0, "no quiet zone, no expansion");
+  Demand(settings.MatrixSize == 12 * 256 + 12 && settings.format == 0, "a plain 12 x 12");
+}
+
+std::vector<char> BytesOfSettings() {
+  const auto* first = reinterpret_cast<const char*>(&barhatch::CurrentSettings());
+  return {first, first + sizeof(barhatch::BarcodeSettings)};
+}
+
+std::size_t UnitsOf(const BarhatchChar* text, std::size_t most) {
+  return text == nullptr || std::u16string_view(text).size() > most
+             ? most + 1
+             : std::u16string_view(text).size();
+}
 
 class Host {
  public:
-  explicit Host(FuzzInput& input) : input_(input) { InitBarcode(); }
+  explicit Host(FuzzInput& input) : input_(input) { Start(); }
 
   void CallOne() {
     switch (input_.Byte() % 18) {
       case 0:
-        return InitBarcode();
+        return Start();
       case 1:
         return SetBarcodeType(input_.Integer());
       case 2:
@@ -76,6 +103,11 @@ class Host {
   }
 
  private:
+  static void Start() {
+    InitBarcode();
+    DemandDefaults();
+  }
+
   const BarhatchChar* TextOrNull() {
     text_ = input_.Text(kLongestText);
     return input_.Byte() == 7 ? nullptr : text_.c_str();
@@ -94,7 +126,7 @@ class Host {
   }
 
   // The string of the current settings, released again.
-  std::string CurrentLetters() {
+  static std::string CurrentLetters() {
     const std::unique_ptr<char[]> letters(GenerateBarcodeString());
     barhatch::fuzz::DemandSoundLetters(letters.get());
     return letters ? letters.get() : "";
@@ -103,20 +135,23 @@ class Host {
   void MakeLetters() {
     const CallWatch watch;
     letters_ = CurrentLetters();
-    watch.DemandWithin(kWorkBytes);
+    watch.DemandWithin(2 * barhatch::fuzz::MostLetterBytes(kLongestText));
   }
 
-  void Keep(FillBufferInfo* fill, const CallWatch& watch) {
-    watch.DemandWithin(BytesOf(fill) + kWorkBytes);
+  void Keep(FillBufferInfo* fill, const CallWatch& watch, std::size_t mostBytes) {
+    watch.DemandWithin(mostBytes);
+    if (fill == nullptr) watch.DemandNothingKept();
     barhatch::fuzz::DemandSoundFill(fill);
-    fills_.emplace_back(fill);
+    if (fill != nullptr) fills_.emplace_back(fill);
   }
 
   void HatchLetters() {
     const std::string letters = input_.Byte() % 2 == 0 ? letters_ : WrittenByTheHost();
     if (barhatch::fuzz::IsLargeLinearFill(letters, barhatch::CurrentSettings())) return;
+    const bool isNull = input_.Byte() == 9;
     const CallWatch watch;
-    Keep(HatchBarcodeString(letters.c_str()), watch);
+    FillBufferInfo* fill = HatchBarcodeString(isNull ? nullptr : letters.c_str());
+    Keep(fill, watch, barhatch::fuzz::MostFillBytes(fill, letters.size()));
   }
 
   std::string WrittenByTheHost() {
@@ -125,13 +160,20 @@ class Host {
     return letters;
   }
 
-  void Vectorize() {
-    if (barhatch::fuzz::IsLargeLinearFill(CurrentLetters(), barhatch::CurrentSettings())) return;
-    const CallWatch watch;
-    Keep(GenerateVectorizedBarcode(), watch);
+  static std::size_t MostBytes(const FillBufferInfo* fill, const std::string& letters) {
+    return barhatch::fuzz::MostFillBytes(fill, letters.size()) +
+           barhatch::fuzz::MostLetterBytes(kLongestText);
   }
 
-  void MakeLinear() {
+  void Vectorize() {
+    const std::string letters = CurrentLetters();
+    if (barhatch::fuzz::IsLargeLinearFill(letters, barhatch::CurrentSettings())) return;
+    const CallWatch watch;
+    FillBufferInfo* fill = GenerateVectorizedBarcode();
+    Keep(fill, watch, MostBytes(fill, letters));
+  }
+
+  LinearBarcodeInfo LinearRecord() {
     LinearBarcodeInfo info{};
     info.type = input_.Integer();
     info.height = input_.Double();
@@ -144,37 +186,84 @@ class Host {
     info.QuietZoneSize = input_.Integer();
     info.BorderWidth = input_.Integer();
     info.DataString = TextOrNull();
-    if (input_.Byte() == 9) return Keep(GenerateLinearBarcode(nullptr), CallWatch());
-    if (IsLarge(info)) return;
+    return info;
+  }
+
+  void MakeLinear() {
+    const LinearBarcodeInfo info = LinearRecord();
+    const bool isNull = input_.Byte() == 9;
+    if (isNull || UnitsOf(info.DataString, kLongestLinearText) > kLongestLinearText) {
+      const std::vector<char> before = BytesOfSettings();
+      Demand(GenerateLinearBarcode(isNull ? nullptr : &info) == nullptr, "a record is refused");
+      return Demand(before == BytesOfSettings(), "a refused record changes nothing");
+    }
+    const std::string letters = LettersOf(info);
+    barhatch::BarcodeSettings settings = barhatch::CurrentSettings();
+    settings.HatchingType = info.HatchingType;
+    if (barhatch::fuzz::IsLargeLinearFill(letters, settings)) return;
     const CallWatch watch;
-    Keep(GenerateLinearBarcode(&info), watch);
+    FillBufferInfo* fill = GenerateLinearBarcode(&info);
+    Keep(fill, watch, MostBytes(fill, letters));
   }
 
   // Asks for centre points first: that puts the record into the settings and costs nothing.
-  bool IsLarge(LinearBarcodeInfo info) {
-    const std::int32_t hatchingType = info.HatchingType;
+  static std::string LettersOf(LinearBarcodeInfo info) {
     info.HatchingType = 6;
     const OwnedFill points(GenerateLinearBarcode(&info));
-    barhatch::BarcodeSettings settings = barhatch::CurrentSettings();
-    settings.HatchingType = hatchingType;
-    return barhatch::fuzz::IsLargeLinearFill(CurrentLetters(), settings);
+    return CurrentLetters();
   }
 
-  void MakeMatrix() {
+  DataMatrixBarcodeInfo MatrixRecord() {
     DataMatrixBarcodeInfo info{};
     info.height = input_.Double();
     info.format = input_.Integer();
     info.HatchingType = input_.Integer();
     info.LineGap = input_.Double();
     info.InvertImage = input_.Byte();
-    info.MatrixSize = input_.Byte() % 2 == 0 ? 0 : input_.Bits<std::int16_t>();
-    info.IsExpanding = input_.Byte() % 2;
-    info.QuietZone = input_.Byte() % 2;
+    info.MatrixSize = MatrixSize();
+    info.IsExpanding = input_.Byte();
+    info.QuietZone = input_.Byte();
+    info.QuietZoneSize = input_.Integer();
+    info.BorderWidth = input_.Integer();
     info.DataString = TextOrNull();
-    if (input_.Byte() == 9) return Keep(GenerateDataMatrixBarcode(nullptr), CallWatch());
-    if (barhatch::fuzz::IsLargeMatrixFill(info)) return;
+    return info;
+  }
+
+  std::int32_t MatrixSize() {
+    const std::uint8_t kind = input_.Byte();
+    if (kind < 128) return 0;
+    return kind < 224 ? input_.Bits<std::int16_t>() : input_.Bits<std::int32_t>();
+  }
+
+  void MakeMatrix() {
+    const DataMatrixBarcodeInfo info = MatrixRecord();
+    const bool isNull = input_.Byte() == 9;
+    if (isNull ||
+        UnitsOf(info.DataString, barhatch::kMaxDataMatrixText) > barhatch::kMaxDataMatrixText) {
+      const std::vector<char> before = BytesOfSettings();
+      Demand(GenerateDataMatrixBarcode(isNull ? nullptr : &info) == nullptr, "a record is refused");
+      return Demand(before == BytesOfSettings(), "a refused record changes nothing");
+    }
+    const std::size_t modules = ModulesUnlessLarge(info);
+    if (modules == 0) return;
     const CallWatch watch;
-    Keep(GenerateDataMatrixBarcode(&info), watch);
+    FillBufferInfo* fill = GenerateDataMatrixBarcode(&info);
+    Keep(fill, watch, barhatch::fuzz::MostMatrixBytes(fill, modules));
+  }
+
+  // Modules of the symbol of the record, one where it is refused, none where the fill is large.
+  static std::size_t ModulesUnlessLarge(DataMatrixBarcodeInfo info) {
+    const std::int32_t hatchingType = info.HatchingType;
+    info.HatchingType = 6;
+    const OwnedFill points(GenerateDataMatrixBarcode(&info));
+    barhatch::DataMatrixEncoder encoder;
+    const OwnedGrid grid(encoder.EncodeDataMatrix());
+    Demand(grid != nullptr, "there is memory for a grid");
+    if (grid->data == nullptr) return 1;
+    barhatch::BarcodeSettings settings = barhatch::CurrentSettings();
+    settings.HatchingType = hatchingType;
+    if (barhatch::fuzz::IsLargeMatrixFill(grid->numrows, grid->numcols, settings)) return 0;
+    return static_cast<std::size_t>(grid->numrows * grid->numcols);
   }
 
   void ReleaseGrid() {

@@ -78,4 +78,6 @@ void CallWatch::DemandWithin(std::size_t mostBytes) const {
          "a call holds no more memory than its result needs");
 }
 
+void CallWatch::DemandNothingKept() const { Demand(liveBytes <= 0, "a refusal keeps no memory"); }
+
 }  // namespace barhatch::fuzz

@@ -15,9 +15,12 @@ class CallWatch {
  public:
   CallWatch();
 
-  // REQUIRES: called once, behind the watched calls and before their results are released.
+  // REQUIRES: called behind the watched calls and before their results are released.
   // mostBytes: what the calls may have held at any time.
   void DemandWithin(std::size_t mostBytes) const;
+
+  // Nothing of what the watched calls allocated is left. REQUIRES: as above.
+  void DemandNothingKept() const;
 
  private:
   double startSeconds_;

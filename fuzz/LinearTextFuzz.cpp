@@ -19,9 +19,6 @@ using barhatch::fuzz::FuzzInput;
 
 constexpr std::int32_t kTypes = 23;
 constexpr std::size_t kLongestText = 3200;
-constexpr std::size_t kUsualLetters = 65536;      // what strings are allocated with at least
-constexpr std::size_t kLettersOfACharacter = 40;  // Code 39, the widest: 9 elements and a gap
-constexpr std::size_t kBytesOfAnElement = 96;     // its rectangle, its point, a spare one
 
 std::size_t ElementsOf(const std::string& letters, bool light) {
   return static_cast<std::size_t>(std::count_if(letters.begin(), letters.end(), [&](char letter) {
@@ -32,7 +29,7 @@ std::size_t ElementsOf(const std::string& letters, bool light) {
 std::string Letters(std::size_t textLength) {
   const CallWatch watch;
   const std::unique_ptr<char[]> letters(GenerateBarcodeString());
-  watch.DemandWithin(kUsualLetters + kLettersOfACharacter * textLength);
+  watch.DemandWithin(barhatch::fuzz::MostLetterBytes(textLength));
   barhatch::fuzz::DemandSoundLetters(letters.get());
   return letters ? letters.get() : "";
 }
@@ -59,8 +56,10 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   FillBufferInfo* points = GenerateLinearBarcode(&info);
   const std::size_t strokes =
       points == nullptr ? 0 : static_cast<std::size_t>(points->BufferLength) / 2;
-  watch.DemandWithin(kUsualLetters + kLettersOfACharacter * text.size() +
-                     kBytesOfAnElement * strokes + 4096);
+  watch.DemandWithin(
+      barhatch::fuzz::MostLetterBytes(text.size()) +
+      barhatch::fuzz::MostFillBytes(points, points == nullptr ? 40 * text.size() + 100 : strokes));
+  if (points == nullptr) watch.DemandNothingKept();
   barhatch::fuzz::DemandSoundFill(points);
   FreeBarcodeData(points);
 

@@ -27,9 +27,9 @@ using barhatch::fuzz::FuzzInput;
 namespace test = barhatch::test;
 
 constexpr std::size_t kLongestText = 3200;
-constexpr std::size_t kLongestForTheReference =
-    400;                                        // its look-ahead counts anew for each question
-constexpr std::size_t kWorkBytes = 256u << 10;  // codewords, mapping matrix, one row of rectangles
+// The reference's look-ahead counts anew for each question.
+constexpr std::size_t kLongestForTheReference = 400;
+constexpr std::size_t kMostModules = 146 * 146;
 
 struct GridRelease {
   void operator()(TwoDStringResult* grid) const { Free2DBarcodeStringResult(grid); }
@@ -98,7 +98,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   InitBarcode();
   const CallWatch watch;
   FillBufferInfo* points = GenerateDataMatrixBarcode(&info);
-  watch.DemandWithin(2 * barhatch::fuzz::BytesOf(points) + kWorkBytes);
+  watch.DemandWithin(barhatch::fuzz::MostMatrixBytes(points, kMostModules));
   barhatch::fuzz::DemandSoundFill(points);
   const bool isMade = points != nullptr;
   FreeBarcodeData(points);

@@ -9,23 +9,32 @@ namespace barhatch::fuzz {
 
 namespace {
 
-constexpr double kManyStrokes = 2e5;
+constexpr double kManyStrokes = 1e5;
 constexpr double kMostGaps = 8589934592.0;  // 2^33: more than 32 bits of gaps in one element
-constexpr int kSpiral = 5;
-constexpr int kCentres = 6;
+constexpr std::int32_t kSpiral = 5;
 
-bool IsLinesUpwards(std::int32_t hatchingType) { return hatchingType == 1 || hatchingType == 3; }
+constexpr std::size_t kBytesOfAnElement = 56 + 2 * 32;
+constexpr std::size_t kWorkBytes = 8192;
+constexpr std::size_t kBytesOfTwoRows = 2 * 56 * 146;
+constexpr std::size_t kUsualLetters = 65536;
+constexpr std::size_t kMostLettersOfAUnit = 40;
 
-// Gaps across one element of that size for the strokes of a pattern.
-double GapsAcross(double width, double height, double gap, std::int32_t hatchingType) {
-  const double vertical = std::fabs(width / gap);
-  const double horizontal = std::fabs(height / gap);
-  if (hatchingType == kSpiral) return 2.0 * std::fmin(vertical, horizontal) + 3.0;
-  return IsLinesUpwards(hatchingType) ? vertical : horizontal;
+bool HasStrokes(std::int32_t hatchingType) {
+  return (hatchingType >= 0 && hatchingType <= 3) || hatchingType == kSpiral;
 }
 
-bool IsLarge(double gapsAcross, double elements) {
-  return gapsAcross * elements > kManyStrokes && gapsAcross <= kMostGaps;
+// Strokes in one element of that size.
+double StrokesOf(double width, double height, const BarcodeSettings& settings) {
+  const double upwards = std::fabs(width / settings.LineGap);
+  const double across = std::fabs(height / settings.LineGap);
+  if (settings.HatchingType == kSpiral) return 2.0 * std::fmin(upwards, across) + 3.0;
+  return settings.HatchingType % 2 == 1 ? upwards : across;
+}
+
+bool IsLarge(double width, double height, double elements, const BarcodeSettings& settings) {
+  if (!HasStrokes(settings.HatchingType) || !(settings.LineGap > 0.0)) return false;
+  const double strokes = StrokesOf(width, height, settings);
+  return strokes * elements > kManyStrokes && strokes <= kMostGaps;
 }
 
 }  // namespace
@@ -46,39 +55,35 @@ void DemandSoundLetters(const char* letters) {
   Demand(std::strspn(letters, "AaBb") == std::strlen(letters), "the four letters alone");
 }
 
-std::size_t BytesOf(const FillBufferInfo* fill) {
-  return fill == nullptr ? 0
-                         : sizeof(FillBufferInfo) +
-                               sizeof(double) * static_cast<std::size_t>(fill->BufferLength);
+std::size_t MostFillBytes(const FillBufferInfo* fill, std::size_t elements) {
+  const std::size_t doubles = fill == nullptr ? 0 : static_cast<std::size_t>(fill->BufferLength);
+  return sizeof(double) * doubles + kBytesOfAnElement * elements + kWorkBytes;
+}
+
+std::size_t MostMatrixBytes(const FillBufferInfo* fill, std::size_t modules) {
+  return MostFillBytes(fill, modules) + kBytesOfTwoRows;
+}
+
+std::size_t MostLetterBytes(std::size_t units) {
+  return kUsualLetters + kMostLettersOfAUnit * units;
 }
 
 bool IsLargeLinearFill(const std::string& letters, const BarcodeSettings& settings) {
-  if (settings.HatchingType == kCentres) return false;
   double modules = 0.0;
   for (char letter : letters) {
     if (letter == 'A' || letter == 'a') modules += 1.0;
     if (letter == 'B' || letter == 'b') modules += settings.PrintRatio;
   }
   const double narrow = settings.width / modules;
+  const double wide = narrow * settings.PrintRatio;
   const double elements = static_cast<double>(letters.size());
-  for (const double width : {narrow, narrow * settings.PrintRatio}) {
-    if (IsLarge(GapsAcross(width, settings.height, settings.LineGap, settings.HatchingType),
-                elements)) {
-      return true;
-    }
-  }
-  return false;
+  return IsLarge(narrow, settings.height, elements, settings) ||
+         IsLarge(wide, settings.height, elements, settings);
 }
 
-bool IsLargeMatrixFill(const DataMatrixBarcodeInfo& info) {
-  if (info.HatchingType == kCentres) return false;
-  // From the 8 rows of the smallest rectangle to the 146 of the largest square with its quiet zone.
-  // Strokes upwards add up to at most half of the modules' widths in each row.
-  constexpr double kMostRows = 146.0;
-  constexpr double kFewestRows = 8.0;
-  const double largest = std::fabs(info.height / kFewestRows / info.LineGap);
-  const double smallest = std::fabs(info.height / kMostRows / info.LineGap);
-  return largest * kMostRows * kMostRows > kManyStrokes && smallest <= kMostGaps;
+bool IsLargeMatrixFill(std::int32_t rows, std::int32_t columns, const BarcodeSettings& settings) {
+  const double cell = settings.height / rows;
+  return IsLarge(cell, cell, static_cast<double>(rows) * columns, settings);
 }
 
 }  // namespace barhatch::fuzz
