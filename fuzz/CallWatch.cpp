@@ -14,7 +14,14 @@
 #endif
 
 #if defined(BARHATCH_FUZZ_ADDRESS_SANITIZER)
-#include <sanitizer/allocator_interface.h>
+// The sanitizer's interface to its allocator; g++ has the functions without the header.
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-*)
+extern "C" {
+int __sanitizer_install_malloc_and_free_hooks(void (*allocated)(const volatile void*, std::size_t),
+                                              void (*released)(const volatile void*));
+std::size_t __sanitizer_get_allocated_size(const volatile void* block);
+}
+// NOLINTEND(bugprone-reserved-identifier,cert-*)
 #endif
 
 namespace barhatch::fuzz {
@@ -35,8 +42,7 @@ void CountAllocation(const volatile void*, std::size_t size) {
 
 void CountRelease(const volatile void* block) {
   if (block == nullptr) return;
-  liveBytes -=
-      static_cast<std::int64_t>(__sanitizer_get_allocated_size(const_cast<const void*>(block)));
+  liveBytes -= static_cast<std::int64_t>(__sanitizer_get_allocated_size(block));
 }
 
 const bool areHooksInstalled =

@@ -1,5 +1,5 @@
-// One text for one linear type: the module string twice, and as many points as it has dark or light
-// elements.
+// One text for one linear type: the module string twice, as many points as it has dark or light
+// elements, and what plain readers get from it.
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
@@ -8,7 +8,9 @@
 
 #include "CallWatch.h"
 #include "FuzzInput.h"
+#include "LinearReadings.h"
 #include "Results.h"
+#include "api/BarcodeSettings.h"
 #include "barhatch.h"
 
 namespace {
@@ -19,6 +21,16 @@ using barhatch::fuzz::FuzzInput;
 
 constexpr std::int32_t kTypes = 23;
 constexpr std::size_t kLongestText = 3200;
+
+// The low bytes up to the first that is zero.
+std::string Narrowed(const std::u16string& text) {
+  std::string narrow;
+  for (char16_t unit : text) {
+    if ((unit & 0xFF) == 0) break;
+    narrow += static_cast<char>(unit & 0xFF);
+  }
+  return narrow;
+}
 
 std::size_t ElementsOf(const std::string& letters, bool light) {
   return static_cast<std::size_t>(std::count_if(letters.begin(), letters.end(), [&](char letter) {
@@ -70,5 +82,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   const std::string letters = Letters(text.size());
   Demand(letters == Letters(text.size()), "the same text gives the same string");
   Demand(strokes == ElementsOf(letters, info.InvertImage != 0), "one point an element");
+  barhatch::CurrentSettings().QuietZone = 0;
+  const std::string inner = Letters(text.size());
+  Demand(inner.empty() == letters.empty(), "quiet zones refuse nothing");
+  if (!inner.empty()) barhatch::fuzz::DemandReading(info.type, Narrowed(text), inner);
   return 0;
 }
