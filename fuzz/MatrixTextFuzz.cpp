@@ -14,7 +14,6 @@
 #include "api/BarcodeSettings.h"
 #include "barhatch.h"
 #include "datamatrix/DataMatrixEncoder.h"
-#include "datamatrix/SymbolSizes.h"
 #include "support/DataMatrixReader.h"
 #include "support/PlacementReference.h"
 #include "support/ReferenceEncodation.h"
@@ -70,10 +69,10 @@ void DemandTheReading(const std::vector<int>& codewords,
 
 void DemandAsTheReference(const OwnedGrid& grid, const std::u16string& text,
                           const DataMatrixBarcodeInfo& info) {
-  const barhatch::SizeRequest request =
-      barhatch::RequestFromMatrixSize(info.MatrixSize, info.IsExpanding);
-  const test::ReferenceEncodation reference = test::EncodeByReference(
-      text, info.format, {request.rows, request.columns, request.isExpanding});
+  const auto size = static_cast<std::uint32_t>(info.MatrixSize);  // the higher bits mean nothing
+  const test::ReferenceRequest request = {static_cast<int>(size >> 8 & 255),
+                                          static_cast<int>(size & 255), info.IsExpanding};
+  const test::ReferenceEncodation reference = test::EncodeByReference(text, info.format, request);
   Demand((grid != nullptr) == (reference.capacity != 0), "both refuse or neither");
   if (grid == nullptr) return;
   for (const test::ReferenceSize& row : test::ReferenceSizes()) {
