@@ -8,8 +8,12 @@
 
 namespace barhatch::fuzz {
 
+[[noreturn]] void Fail(const char* meaning);
+
 // Ends the program unless the statement is true.
-void Demand(bool statement, const char* meaning);
+inline void Demand(bool statement, const char* meaning) {
+  if (!statement) Fail(meaning);
+}
 
 class CallWatch {
  public:
