@@ -247,9 +247,15 @@ TEST_P(Writers, AnimatedSvgIsTheSamePictureInMarkingOrder) {
   EXPECT_EQ(svg.find(" opacity"), std::string::npos);
 }
 
+std::string CaseName(const ::testing::TestParamInfo<std::tuple<Kind, std::int32_t>>& info) {
+  const char* const kind = std::get<0>(info.param) == Kind::kLinear ? "Linear" : "Matrix";
+  return kind + std::to_string(std::get<1>(info.param));
+}
+
 INSTANTIATE_TEST_SUITE_P(EveryPattern, Writers,
                          ::testing::Combine(::testing::Values(Kind::kLinear, Kind::kDataMatrix),
-                                            ::testing::Values(0, 1, 2, 3, 5, 6)));
+                                            ::testing::Values(0, 1, 2, 3, 5, 6)),
+                         CaseName);
 
 TEST(Gcode, StrokesThatGoOnAreMarkedWithoutSwitching) {
   Drawing drawing;
