@@ -148,6 +148,45 @@ TEST_F(ApiTraceTest, GenerateLinearBarcodeWritesItsRecordAndTheCallsItMakes) {
                            "GenerateVectorizedBarcode();\nGenerateBarcodeString();\n");
 }
 
+// The text between "DataString = " and the ";" behind it.
+std::string TracedText(const BarhatchChar* text, const TraceFile& file) {
+  const LinearBarcodeInfo info = LinearRecord(text);
+  EXPECT_EQ(GenerateLinearBarcode(&info), nullptr);
+  const std::string written = file.Text();
+  const std::string before = "lBarInfo->DataString = ";
+  const std::size_t begin = written.rfind(before) + before.size();
+  return written.substr(begin, written.find(";\n", begin) - begin);
+}
+
+// RFC 3629: one byte up to U+007F, two up to U+07FF, three up to U+FFFF, four up to U+10FFFF.
+TEST_F(ApiTraceTest, TextIsUtf8OnBothSidesOfEveryLength) {
+  const BarhatchChar text[] = {0x7F,   0x80,   0x7FF,  0x800,  0xD7FF, 0xE000,
+                               0xFFFF, 0xD800, 0xDC00, 0xDBFF, 0xDFFF, 0};
+  EXPECT_EQ(TracedText(text, file_),
+            "\x7F"
+            "\xC2\x80"
+            "\xDF\xBF"
+            "\xE0\xA0\x80"
+            "\xED\x9F\xBF"
+            "\xEE\x80\x80"
+            "\xEF\xBF\xBF"
+            "\xF0\x90\x80\x80"
+            "\xF4\x8F\xBF\xBF");
+}
+
+TEST_F(ApiTraceTest, ASurrogateWithoutItsPartnerIsTheReplacementCharacter) {
+  const std::string replacement = "\xEF\xBF\xBD";
+  const BarhatchChar lonely[][3] = {
+      {0xD800, 'A', 0}, {0xDBFF, 'A', 0}, {0xDC00, 'A', 0}, {0xDFFF, 'A', 0}};
+  for (const auto& text : lonely) EXPECT_EQ(TracedText(text, file_), replacement + 'A');
+  const BarhatchChar twoHigh[] = {0xDBFF, 0xDBFF, 0};
+  EXPECT_EQ(TracedText(twoHigh, file_), replacement + replacement);
+  const BarhatchChar wrongOrder[] = {0xDC00, 0xD800, 0};
+  EXPECT_EQ(TracedText(wrongOrder, file_), replacement + replacement);
+  const BarhatchChar noPartner[] = {0xD800, 0xE000, 0};
+  EXPECT_EQ(TracedText(noPartner, file_), replacement + "\xEE\x80\x80");
+}
+
 TEST_F(ApiTraceTest, RefusedRecordsAreTracedAndNullRecordsAreNot) {
   EXPECT_EQ(GenerateLinearBarcode(nullptr), nullptr);
   EXPECT_EQ(Written(), "");
@@ -206,6 +245,25 @@ TEST(EntryPoint, DetachAndThreadReasonsCloseTheStreamAndLeaveThePointer) {
     EXPECT_EQ(ApiTrace(), nullptr);
   }
 }
+
+#if defined(__GLIBC__)
+int CountClose(void* closes) {
+  ++*static_cast<int*>(closes);
+  return 0;
+}
+
+TEST(EntryPoint, AStreamIsClosedOnceWhoeverClosesIt) {
+  for (const bool byTheLoader : {true, false}) {
+    int closes = 0;
+    AttachApiTrace(fopencookie(&closes, "w", {nullptr, nullptr, nullptr, CountClose}));
+    ASSERT_NE(ApiTrace(), nullptr);
+    if (byTheLoader) HandleLoaderReason(kProcessDetach);
+    EXPECT_EQ(closes, byTheLoader ? 1 : 0);
+    CloseApiTrace();
+    EXPECT_EQ(closes, 1);
+  }
+}
+#endif
 
 TEST(EntryPoint, OtherReasonsDoNothing) {
   TraceFile file;

@@ -209,6 +209,12 @@ TEST_F(TextLimit, From3120UnitsOnTextIsRefusedUntilAnAcceptableOneIsSet) {
   }
 }
 
+TEST_F(TextLimit, NothingOfARefusedTextOrOfTheOneBeforeIsKept) {
+  UseCode39("7");
+  SetDataString(Text16(3120, BarhatchChar{'8'}).c_str());
+  EXPECT_EQ(std::u16string(CurrentSettings().DataString), u"");
+}
+
 TEST_F(TextLimit, NullTextIsHarmlessAndRefused) {
   UseCode39("7");
   SetDataString(nullptr);

@@ -53,6 +53,8 @@ TEST(AddCounts, StopsAtTheLargestBufferLength) {
   EXPECT_EQ(AddCounts(2147483640, 8), kUncountable);
   EXPECT_EQ(AddCounts(kUncountable, 0), kUncountable);
   EXPECT_EQ(AddCounts(0, kUncountable), kUncountable);
+  EXPECT_EQ(AddCounts(kUncountable, 5), kUncountable);
+  EXPECT_EQ(AddCounts(5, kUncountable), kUncountable);
 }
 
 DoubleCount CountByWalking(double start, double end, double gap) {
@@ -101,6 +103,11 @@ TEST(MostStrokes, CountsUpToThirtyTwoBitsOfGaps) {
   EXPECT_GE(MostStrokes(4294967294.0, 4294967295.0, 1.0), 1);
   EXPECT_EQ(MostStrokes(4294967295.0, 4294967296.0, 1.0), kUncountable);
   EXPECT_EQ(MostStrokes(-4294967296.0, -4294967295.0, 1.0), kUncountable);
+  // The distance across and the distance from the origin have the same limit, each on its own.
+  EXPECT_EQ(MostStrokes(-2147483648.0, 2147483648.0, 1.0), kUncountable);
+  EXPECT_GE(MostStrokes(-2147483648.0, 2147483647.0, 1.0), 4294967295);
+  EXPECT_EQ(MostStrokes(4.3e6, 4.3e6 + 1.0, 0.001), kUncountable);
+  EXPECT_GE(MostStrokes(4.2e6, 4.2e6 + 1.0, 0.001), 1000);
 }
 
 TEST(MostStrokes, NothingLiesInAnEmptyRange) {
