@@ -22,7 +22,8 @@ struct alignas(16) Header {
 };
 
 bool watching = false;
-std::size_t failFrom = 0;
+std::size_t failFrom = 0;  // from this attempt to that one; none when they are 0
+std::size_t failUntil = 0;
 std::size_t attempted = 0;
 std::size_t liveBlocks = 0;
 std::size_t liveBytes = 0;
@@ -37,7 +38,7 @@ void Count(Header& header) {
 }
 
 void* Allocate(std::size_t size, Form form) noexcept {
-  if (watching && ++attempted >= failFrom && failFrom != 0) return nullptr;
+  if (watching && ++attempted >= failFrom && attempted <= failUntil) return nullptr;
   if (size > PTRDIFF_MAX - sizeof(Header)) return nullptr;
   auto* header = static_cast<Header*>(std::malloc(sizeof(Header) + size));
   if (header == nullptr) return nullptr;
@@ -69,8 +70,10 @@ void* AllocateOrThrow(std::size_t size, Form form) {
 
 }  // namespace
 
-AllocationProbe::AllocationProbe(std::size_t failAt) {
+AllocationProbe::AllocationProbe(std::size_t failAt, Shortage shortage) {
+  const bool goesOn = failAt != 0 && shortage == Shortage::kFromThereOn;
   failFrom = failAt;
+  failUntil = goesOn ? SIZE_MAX : failAt;
   attempted = liveBlocks = liveBytes = peakBytes = 0;
   watching = true;
 }

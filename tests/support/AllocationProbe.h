@@ -8,11 +8,15 @@
 
 namespace barhatch::test {
 
+// Memory that has run out, or one block that was too large for what was left.
+enum class Shortage { kFromThereOn, kThatOneOnly };
+
 // Watches the allocations of its lifetime. Allocations made outside are left alone.
 class AllocationProbe {
  public:
-  // failAt: the allocation that fails, counted from 1, and all after it; 0 lets all succeed.
-  explicit AllocationProbe(std::size_t failAt = 0);
+  // failAt: the allocation that fails, counted from 1, alone or with all after it; 0 lets all
+  // succeed.
+  explicit AllocationProbe(std::size_t failAt = 0, Shortage shortage = Shortage::kFromThereOn);
   ~AllocationProbe();
   AllocationProbe(const AllocationProbe&) = delete;
   AllocationProbe& operator=(const AllocationProbe&) = delete;
