@@ -85,6 +85,7 @@ class Statements {
     if (!AreWanted()) return;
     if (text == nullptr) {
       Write(kNullText);
+      // cppcheck-suppress duplicateExpression ; equal on some platforms alone
     } else if constexpr (sizeof(wchar_t) == sizeof(BarhatchChar)) {
       std::fprintf(stream_, "%ls", static_cast<const wchar_t*>(static_cast<const void*>(text)));
     } else {

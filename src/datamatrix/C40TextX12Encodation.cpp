@@ -80,6 +80,7 @@ class TripleWriter {
 void LeaveFor(EncodationState& state, TripleWriter& writer, Mode mode) {
   const std::size_t end = state.position;
   writer.Close();
+  // cppcheck-suppress knownConditionTrueFalse ; Close takes characters back
   if (state.position < end || !IsOneBelowSquareCapacity(state)) {
     state.codewords.Append(UnlatchCodeword(state.mode));
   }

@@ -20,6 +20,7 @@ void ThirdsSum::Count(Tally& tally, std::size_t index, int sign) {
   ++work_;
   const int thirds = ThirdsAt(index);
   std::uint16_t& count = thirds == 2 ? tally.singles : thirds == 4 ? tally.doubles : tally.leaves;
+  // cppcheck-suppress danglingTempReference ; both branches are members of the tally
   count = static_cast<std::uint16_t>(count + sign);
 }
 

@@ -1,0 +1,180 @@
+"""The checks of scripts/ can fail: each passes a copy of this tree and refuses a copy with one fault in it."""
+import importlib.machinery
+import importlib.util
+import re
+import shutil
+import subprocess
+import tempfile
+import unittest
+from pathlib import Path
+
+ROOT = Path(__file__).resolve().parent.parent.parent
+
+
+def run(*command, **options):
+    return subprocess.run([str(word) for word in command], capture_output=True, text=True, check=False, **options)
+
+
+class Copy(unittest.TestCase):
+    """A copy of the tree, which the copies of the scripts in it take for the project."""
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.root = Path(folder.name)
+        for part in ("src", "include", "tests", "tools", "docs", "scripts"):
+            shutil.copytree(ROOT / part, self.root / part, ignore=shutil.ignore_patterns("*.png", "*.svg", "__pycache__"))
+
+    def change(self, name, before, after):
+        path = self.root / name
+        text = path.read_text(encoding="utf-8")
+        self.assertIn(before, text)
+        path.write_text(text.replace(before, after, 1), encoding="utf-8")
+
+    def expect(self, script, complaint=None):
+        result = run(self.root / "scripts" / script)
+        if complaint is None:
+            self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
+        else:
+            self.assertEqual(result.returncode, 1, result.stderr)
+            self.assertRegex(result.stdout, complaint)
+
+
+class Includes(Copy):
+    def refuses(self, name, before, after, complaint):
+        self.change(name, before, after)
+        self.expect("check-includes", complaint)
+
+    def test_passes_the_tree(self):
+        self.expect("check-includes")
+
+    def test_forbidden_headers_in_a_source(self):
+        for header in ("iostream", "locale", "cctype", "functional", "stdexcept"):
+            with self.subTest(header):
+                self.setUp()
+                self.refuses("src/hatch/Hatcher.cpp", "\n\n", f"\n#include <{header}>\n\n", f"<{header}> has no place")
+
+    def test_a_forbidden_header_through_a_header_of_ours(self):
+        self.refuses("src/symbologies/ModuleString.h", "#ifndef", "#include <locale>\n#ifndef", "ModuleString.h: <locale>")
+
+    def test_a_forbidden_header_through_the_exported_header(self):
+        self.refuses("include/barhatch.h", "#include <stdint.h>", "#include <ctype.h>", "barhatch.h: <ctype.h>")
+
+    def test_exceptions(self):
+        self.refuses("src/hatch/Hatcher.cpp", "if (modules == 0.0) return nullptr;", "if (modules == 0.0) throw 1;", "throw")
+
+    def test_the_word_throw_in_a_comment_or_a_text_is_no_exception(self):
+        self.change("src/hatch/Hatcher.cpp", "\n\n", '\n// We never throw.\n[[maybe_unused]] auto t = "throw /*";\n')
+        self.expect("check-includes")
+
+    def test_an_encoder_in_the_hatcher(self):
+        self.refuses("src/hatch/Hatcher.cpp", '#include "hatch/BuildRects.h"', '#include "symbologies/SymbologyFactory.h"',
+                     "not for src/hatch")
+
+    def test_the_settings_in_a_header(self):
+        self.refuses("src/hatch/Hatcher.h", "#ifndef", '#include "api/BarcodeSettings.h"\n#ifndef', "not for src/hatch")
+
+    def test_a_leaf_that_includes(self):
+        self.refuses("src/api/BarcodeSettings.h", "#ifndef", '#include "api/DataText.h"\n#ifndef', "a leaf includes")
+
+    def test_an_oracle_that_shares_a_table(self):
+        self.refuses("tests/support/MsiReader.cpp", "#include", '#include "symbologies/PatternTables.h"\n#include', "an oracle shares")
+
+
+class Deviations(Copy):
+    REGISTER = "docs/deviations.md"
+
+    def refuses(self, complaint):
+        self.expect("check-deviations", complaint)
+
+    def test_passes_the_tree(self):
+        self.expect("check-deviations")
+
+    def test_a_row_is_missing(self):
+        text = (self.root / self.REGISTER).read_text(encoding="utf-8")
+        self.change(self.REGISTER, re.search(r"^\| D-DM-5 \|.*\n", text, re.MULTILINE)[0], "")
+        self.refuses("D-DM-5 has no row")
+
+    def test_a_row_twice(self):
+        text = (self.root / self.REGISTER).read_text(encoding="utf-8")
+        row = re.search(r"^\| D-DM-5 \|.*\n", text, re.MULTILINE)[0]
+        self.change(self.REGISTER, row, row + row)
+        self.refuses("D-DM-5: two rows")
+
+    def test_a_mark_is_missing(self):
+        for path in (self.root / "src").rglob("*.*"):
+            path.write_text(path.read_text(encoding="utf-8").replace("D-DM-7", "that"), encoding="utf-8")
+        self.refuses("D-DM-7: no mark")
+
+    def test_a_test_is_missing(self):
+        self.change("tests/datamatrix/EncodationDeviationsTest.cpp", "DataMatrixDeviations, DDM5", "DataMatrixDeviations, DDM6")
+        self.refuses("there is no test DataMatrixDeviations.DDM5")
+
+
+class Exports(unittest.TestCase):
+    def check(self, source, names):
+        with tempfile.TemporaryDirectory() as folder:
+            folder = Path(folder)
+            (folder / "library.c").write_text(source, encoding="utf-8")
+            (folder / "names").write_text("".join(name + "\n" for name in names), encoding="utf-8")
+            built = run("cc", "-shared", "-fPIC", "-nostdlib", folder / "library.c", "-o", folder / "library.so")
+            self.assertEqual(built.returncode, 0, built.stderr)
+            return run(ROOT / "scripts/check-exports", folder / "library.so", folder / "names")
+
+    def test_the_listed_names_pass(self):
+        self.assertEqual(self.check("void b(void) {} void a(void) {} static void c(void) {}", ("a", "b")).returncode, 0)
+
+    def test_one_name_more(self):
+        result = self.check("void a(void) {} void b(void) {}", ("a",))
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("> b", result.stdout)
+
+    def test_one_name_less(self):
+        result = self.check("void a(void) {}", ("a", "b"))
+        self.assertEqual(result.returncode, 1)
+        self.assertIn("< b", result.stdout)
+
+
+@unittest.skipUnless(shutil.which("cppcheck"), "cppcheck is not installed")
+class Cppcheck(unittest.TestCase):
+    def check(self, statement):
+        with tempfile.TemporaryDirectory() as folder:
+            (Path(folder) / "source.cpp").write_text(f"int f(int i) {{ {statement} }}\n", encoding="utf-8")
+            return run(ROOT / "scripts/check-cppcheck", folder)
+
+    def test_a_clean_source_passes(self):
+        self.assertEqual(self.check("return i + 1;").returncode, 0)
+
+    def test_faults(self):
+        for statement in ("int a[4] = {}; return a[i * 0 + 4];", "int u; return u + i;", "if (i == i) return 1; return 0;"):
+            with self.subTest(statement):
+                self.assertEqual(self.check(statement).returncode, 1)
+
+
+class Coverage(unittest.TestCase):
+    """The verdict alone: its input is what the tool reports for each line."""
+    NAME = "src/hatch/FillBuffer.cpp"
+
+    def judge(self, *counts):
+        path = str(ROOT / "scripts/coverage")
+        loader = importlib.machinery.SourceFileLoader("coverage_script", path)
+        module = importlib.util.module_from_spec(importlib.util.spec_from_loader("coverage_script", loader))
+        loader.exec_module(module)
+        module.EXPLAINED = ((self.NAME, r"return nullptr;", "the reason"),)
+        module.print = lambda *words: None
+        source = (ROOT / self.NAME).read_text(encoding="utf-8").splitlines()
+        explained = 1 + next(i for i, line in enumerate(source) if "return nullptr;" in line)
+        lines = [{"line_number": number, "count": count, "branches": []}
+                 for number, count in ((1, counts[0]), (explained, counts[1]))]
+        return module.judge([{"file": self.NAME, "lines": lines}], False)[1]
+
+    def test_a_line_that_did_not_run_needs_a_reason(self):
+        self.assertEqual(len(self.judge(0, 0)), 1)
+        self.assertEqual(self.judge(1, 0), [])
+
+    def test_a_reason_needs_a_line_that_did_not_run(self):
+        self.assertIn("explains lines that do run", self.judge(1, 1)[0])
+
+
+if __name__ == "__main__":
+    unittest.main()
