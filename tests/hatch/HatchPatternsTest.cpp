@@ -191,6 +191,17 @@ TEST(HatchPatterns, AResultOfMoreDoublesThanBufferLengthHoldsIsFoundBeforeFillin
   EXPECT_EQ(Most({{0, 0, 536870912, 536870912}}, 5, 1.0), kUncountable);
 }
 
+TEST(HatchPatterns, StrokesThatFit32BitsWithoutTheirSignAreTooManyAsWell) {
+  for (int type : {0, 2, 5}) {
+    EXPECT_EQ(Most({{0, 0, 1, 2.5e9}}, type, 1.0), kUncountable) << type;
+  }
+  for (int type : {1, 3, 5}) {
+    EXPECT_EQ(Most({{0, 0, 2.5e9, 1}}, type, 1.0), kUncountable) << type;
+  }
+  EXPECT_EQ(Most({{0, -2.5e9, 1, 1}}, 5, 1.0), kUncountable);
+  EXPECT_EQ(Most({{-2.5e9, 0, 1, 1}}, 5, 1.0), kUncountable);
+}
+
 TEST(HatchPatterns, RectanglesOfNoNumberOrInfinityEnd) {
   const std::vector<PlainRect> strange[] = {
       {{0, 0, kNoNumber, kNoNumber}}, {{kNoNumber, kNoNumber, 1, 1}},
