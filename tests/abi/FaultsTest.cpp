@@ -154,7 +154,7 @@ TEST_F(Faults, EveryModeAndSizeOfADataMatrixStandsAnyFailedAllocation) {
         info.HatchingType = pattern;
         info.QuietZone = flag;
         info.InvertImage = flag;
-        EXPECT_EQ(GenerateDataMatrixBarcode(&info) == nullptr, matrix.isRefused);
+        EXPECT_EQ(TakeFill(GenerateDataMatrixBarcode(&info)).isNull, matrix.isRefused);
         EXPECT_GE(ExpectRobust([&] { return TakeFill(GenerateDataMatrixBarcode(&info)); }),
                   matrix.isRefused ? 1u : 4u);
       }
