@@ -3,5 +3,4 @@ add_library(barhatch_warnings INTERFACE)
 target_compile_options(barhatch_warnings INTERFACE
   -Wall -Wextra -Wpedantic -Wconversion -Wsign-conversion -Wdouble-promotion -Wshadow -Wcast-align
   $<$<COMPILE_LANGUAGE:CXX>:-Wnon-virtual-dtor -Woverloaded-virtual -Wold-style-cast -Wextra-semi>
-  $<$<C_COMPILER_ID:GNU>:-Wduplicated-cond -Wlogical-op>
   $<$<BOOL:${BARHATCH_WARNINGS_AS_ERRORS}>:-Werror>)
