@@ -61,7 +61,7 @@ TEST(Code128Deviations, D1283SeventyNineCharactersAreWholeInTypesFiveSevenAndEig
   for (int i = 0; i < 500; ++i) {
     const std::string text = RandomText(random, 79);
     for (Code128Policy policy : {kAuto, kB, kFromC})
-      ASSERT_EQ(ReadBack(policy, text), ExpectedReading(policy, text)) << text;
+      ASSERT_EQ(ReadBack(policy, text), ExpectedText(policy, text)) << text;
   }
 }
 

@@ -117,7 +117,7 @@ TEST(Code128, SeededTextsAreReadBackAsTheDeviationsPredict) {
   for (int i = 0; i < 4000; ++i) {
     const std::string text = RandomText(random, 1 + random() % 60);
     for (const auto& [type, policy] : kTypes)
-      ASSERT_EQ(ReadBack(policy, text), ExpectedReading(policy, text)) << type << " " << text;
+      ASSERT_EQ(ReadBack(policy, text), ExpectedText(policy, text)) << type << " " << text;
   }
 }
 

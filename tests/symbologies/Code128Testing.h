@@ -1,5 +1,4 @@
-// What the Code 128 tests share: values as decimal text, read-back by the plain reader, and what a
-// standard reader is expected to give where the deviations D-128-1 and D-128-2 touch a text.
+// What the Code 128 tests share: values as decimal text and read-back by the plain reader.
 #ifndef BARHATCH_TESTS_SYMBOLOGIES_CODE128TESTING_H
 #define BARHATCH_TESTS_SYMBOLOGIES_CODE128TESTING_H
 
@@ -9,6 +8,7 @@
 #include <vector>
 
 #include "support/Code128Reader.h"
+#include "support/ExpectedReading.h"
 #include "support/OwnedString.h"
 #include "symbologies/Code128Symbologies.h"
 
@@ -62,41 +62,11 @@ inline std::string Repeat(const std::string& part, int times) {
 
 inline bool IsLowerRange(char c) { return c >= 96 && c <= 126; }
 
-inline bool IsDigitCharacter(char c) { return c >= '0' && c <= '9'; }
-
-// D-128-1 by the shape of the text alone: five or more characters that are all digits, an odd
-// number of them; or a last character that is no digit after a run of four or more digits, which is
-// even or does not begin the text.
-inline bool HasLoneLastCharacter(const std::string& text) {
-  if (text.size() < 5) return false;
-  const bool endsInDigit = IsDigitCharacter(text.back());
-  std::size_t runBegin = text.size() - (endsInDigit ? 0 : 1);
-  const std::size_t runEnd = runBegin;
-  while (runBegin > 0 && IsDigitCharacter(text[runBegin - 1])) --runBegin;
-  const std::size_t run = runEnd - runBegin;
-  if (endsInDigit) return runBegin == 0 && run % 2 == 1;
-  return run >= 4 && (run % 2 == 0 || runBegin > 0);
-}
-
-inline std::string ExpectedReadingOfAuto(std::string text) {
-  if (!HasLoneLastCharacter(text)) return text;
-  const int value = text.back() - 32;
-  text.pop_back();
-  return text + static_cast<char>('0' + value / 10) + static_cast<char>('0' + value % 10);
-}
-
-// D-128-2: a 127 in front of the first character from 96 to 126 is read as control character 31.
-inline std::string ExpectedReadingFromA(std::string text) {
-  for (char& c : text) {
-    if (IsLowerRange(c)) break;
-    if (c == 127) c = 31;
+inline std::string ExpectedText(Code128Policy policy, const std::string& text) {
+  for (const TypeAndPolicy& row : kTypes) {
+    if (row.policy == policy) return ExpectedLinearReading(row.type, text).text.value_or("unread");
   }
-  return text;
-}
-
-inline std::string ExpectedReading(Code128Policy policy, const std::string& text) {
-  if (policy == kAuto) return ExpectedReadingOfAuto(text);
-  return policy == kFromA ? ExpectedReadingFromA(text) : text;
+  return "unread";
 }
 
 // Runs of one kind of character each, so that every policy finds something to switch for.
