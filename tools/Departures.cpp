@@ -163,6 +163,7 @@ bool IsAbove127(char c) { return static_cast<unsigned char>(c) > 127; }
 // What the rows of the linear types ask of a text, narrowed and accepted.
 struct LinearText {
   std::int32_t type;
+  // cppcheck-suppress unusedStructMember ; the functions of the rows below read it
   std::string_view text;
   Code128Outline code128;  // of the types 5 to 8
 };

@@ -54,7 +54,7 @@ class Counts {
     }
   }
 
-  double counts_[6];
+  double counts_[6] = {};
 };
 
 }  // namespace
