@@ -1,10 +1,10 @@
 // Time for one symbol beside the packaged open-source generator libzint: the module string of six
 // linear types against its plain encode; the Data Matrix, alone and with the centre points of all
 // its modules (hatching type 6), against its fast encodation, the one with a look-ahead. libzint's
-// object is reused. Both run in this process in interleaved batches; the medians are compared. Prints
-// one row a case; the goal is a ratio of 0.25 for linear types and of 0.25 to 0.5 for Data Matrix.
-// The last rows compare texts of 3116 and 1558 characters of one kind: the cost is to be linear in
-// the text.
+// object is reused. Both run in this process in interleaved batches; the medians are compared.
+// Prints one row a case; the goal is a ratio of 0.25 for linear types and of 0.25 to 0.5 for Data
+// Matrix. The last rows compare texts of 3116 and 1558 characters of one kind: the cost is to be
+// linear in the text.
 #include <malloc.h>
 #include <zint.h>
 

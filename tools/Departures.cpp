@@ -224,7 +224,7 @@ constexpr LinearRule kLinearRules[] = {
     {"D-39-2",  Types({1}),               [](const LinearText& s) { return HasAnyOf(s.text, "/"); }},
     {"D-39-3",  Types({1}),               [](const LinearText& s) { return HasLetterFromEOn(s.text); }},
     {"D-39-4",  Types({1}),               [](const LinearText& s) { return HasAnyOf(s.text, "*"); }},
-    {"D-39-5",  Types({1}),               [](const LinearText& s) { return s.text.find("%%") != s.text.npos; }},
+    {"D-39-5",  Types({1}),               [](const LinearText& s) { return s.text.find("%%") != std::string_view::npos; }},
     {"D-39-6",  Types({1}),               [](const LinearText& s) { return s.text.empty(); }},
     {"D-128-1", Types({5}),               [](const LinearText& s) { return s.code128.isLastLoneInSetC; }},
     {"D-128-2", Types({6}),               [](const LinearText& s) { return s.code128.hasDeleteInSetA; }},

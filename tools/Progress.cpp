@@ -21,13 +21,13 @@ std::string ProgressBar(std::size_t done, std::size_t all) {
 
 Progress::Progress(std::size_t all) : all_(all), isTerminal_(isatty(STDERR_FILENO) != 0) {}
 
-void Progress::Show(std::size_t done) {
+void Progress::Show(std::size_t done) const {
   if (!isTerminal_) return;
   fmt::print(stderr, "\r{}", ProgressBar(done, all_));
   std::fflush(stderr);
 }
 
-void Progress::Clear() {
+void Progress::Clear() const {
   if (isTerminal_) fmt::print(stderr, "\r\033[K");
 }
 

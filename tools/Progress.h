@@ -17,8 +17,8 @@ class Progress {
   Progress(const Progress&) = delete;
   Progress& operator=(const Progress&) = delete;
 
-  void Show(std::size_t done);
-  void Clear();  // before anything else is printed
+  void Show(std::size_t done) const;
+  void Clear() const;  // before anything else is printed
 
  private:
   std::size_t all_;

@@ -29,7 +29,8 @@ struct PinnedRun {
   std::uint64_t checksum;
 };
 constexpr PinnedRun kLongRun = {4000, 0x90884e8555965c3c};
-constexpr PinnedRun kShortRun = {250, 0x32afbad209fc9115};  // the beginning of the long one, for slow machines
+constexpr PinnedRun kShortRun = {
+    250, 0x32afbad209fc9115};  // the beginning of the long one, for slow machines
 
 }  // namespace barhatch::determinism
 

@@ -8,6 +8,7 @@
 #include <memory>
 #include <random>
 #include <string>
+#include <string_view>
 
 #include "TextRules.h"
 #include "barhatch.h"
@@ -73,7 +74,7 @@ BarcodeText Matrix(const std::u16string& units, std::int32_t size, bool expand,
   return text;
 }
 
-const std::u16string kAlphabets[] = {
+constexpr std::u16string_view kAlphabets[] = {
     u"0123456789",
     u"0123456789-",
     u"ABCDENT*0123456789-$:/.+",
@@ -92,7 +93,7 @@ class Dice {
 
   std::u16string Text(std::size_t length) {
     std::u16string text;
-    const std::u16string* alphabet = &kAlphabets[Below(std::size(kAlphabets))];
+    const std::u16string_view* alphabet = &kAlphabets[Below(std::size(kAlphabets))];
     while (text.size() < length) {
       if (Below(20) == 0) alphabet = &kAlphabets[Below(std::size(kAlphabets))];
       text += (*alphabet)[Below(alphabet->size())];

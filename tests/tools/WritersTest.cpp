@@ -57,7 +57,7 @@ std::vector<Stroke> ReadDxf(const std::string& dxf, const std::string& entity) {
   std::vector<Stroke> marks;
   bool isInside = false;
   for (std::size_t i = 0; i + 1 < lines.size(); i += 2) {
-    const int code = std::atoi(lines[i].c_str());
+    const int code = std::stoi(lines[i]);
     const std::string& value = lines[i + 1];
     if (code == 2 && value == "ENTITIES") isInside = true;
     if (code == 0 && value == "ENDSEC") isInside = false;
