@@ -38,7 +38,11 @@ endforeach()
 if(BARHATCH_BUILD_TOOLS)
   set_target_properties(barhatch_preview PROPERTIES INSTALL_RPATH "$ORIGIN/../${CMAKE_INSTALL_LIBDIR}")
   install(TARGETS barhatch_preview RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR} COMPONENT tool)
-  install(FILES tools/barhatch.1 DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
+  set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS tools/barhatch.1)
+  set(manual ${PROJECT_BINARY_DIR}/barhatch.1.gz)
+  execute_process(COMMAND gzip -9nc tools/barhatch.1 WORKING_DIRECTORY ${PROJECT_SOURCE_DIR} OUTPUT_FILE ${manual}
+    COMMAND_ERROR_IS_FATAL ANY)
+  install(FILES ${manual} DESTINATION ${CMAKE_INSTALL_MANDIR}/man1 COMPONENT tool)
   install(FILES tools/barhatch.bash DESTINATION ${CMAKE_INSTALL_DATAROOTDIR}/bash-completion/completions
     RENAME barhatch COMPONENT tool)
 endif()
