@@ -217,9 +217,9 @@ BARHATCH_API void FreePdf417BarcodeStringResult(TwoDStringResult* grid);
  * becomes of sizes that do not exist. */
 enum _matrixSize : int32_t { /* NOLINT(bugprone-reserved-identifier,cert-*): the name is part of the export */
   kMatrixSizeSmallestSquare = 0, /* needs permission to expand */
-  kMatrixSize10x10 = 0x0A0A,
-  kMatrixSize12x12 = 0x0C0C,
-  kMatrixSize144x144 = 0x9090
+  kMatrixSize10x10 = 0x0A0A,     /* 10 rows, 10 columns */
+  kMatrixSize12x12 = 0x0C0C,     /* 12 rows, 12 columns */
+  kMatrixSize144x144 = 0x9090    /* 144 rows, 144 columns */
 };
 
 /* SetMatrixsize: size of the next Data Matrix. The one function that is exported under its C++ name, for the hosts that

@@ -32,31 +32,31 @@ namespace barhatch {
 // A name of its own keeps these types apart from those inside of the library.
 inline namespace host {
 
-// The linear symbologies.
+// The linear symbologies. The text that each takes is told in full in docs/symbologies.md.
 enum class Type : std::int32_t {
-  kCodabar = 0,
-  kCode39 = 1,
-  kCode93 = 2,
-  kEan13 = 3,
-  kMsi = 4,
-  kCode128 = 5,       // sets B and C, by the runs of digits
-  kCode128FromA = 6,  // begins in set A
-  kCode128B = 7,      // set B alone
-  kCode128FromC = 8,  // begins in set C
-  kUpcA = 9,
-  kUpcE = 10,
-  kCode11 = 11,
-  kEan8 = 12,
-  kUpcAAddOn2 = 13,
-  kUpcAAddOn5 = 14,
-  kEan13AddOn2 = 15,
-  kEan13AddOn5 = 16,
-  kEan8AddOn2 = 17,
-  kEan8AddOn5 = 18,
-  kUpcEAddOn2 = 19,
-  kUpcEAddOn5 = 20,
-  kInterleaved2of5 = 21,
-  kCode93FullAscii = 22
+  kCodabar = 0,           // digits and - $ : / . +, letters at both ends
+  kCode39 = 1,            // digits, capital letters, - . $ / + % and space
+  kCode93 = 2,            // as Code 39
+  kEan13 = 3,             // 12 digits
+  kMsi = 4,               // digits
+  kCode128 = 5,           // sets B and C, by the runs of digits
+  kCode128FromA = 6,      // begins in set A
+  kCode128B = 7,          // set B alone
+  kCode128FromC = 8,      // begins in set C
+  kUpcA = 9,              // 11 digits
+  kUpcE = 10,             // 7 digits
+  kCode11 = 11,           // digits and -
+  kEan8 = 12,             // 7 digits
+  kUpcAAddOn2 = 13,       // 11 and 2 digits
+  kUpcAAddOn5 = 14,       // 11 and 5 digits
+  kEan13AddOn2 = 15,      // 12 and 2 digits
+  kEan13AddOn5 = 16,      // 12 and 5 digits
+  kEan8AddOn2 = 17,       // 7 and 2 digits
+  kEan8AddOn5 = 18,       // 7 and 5 digits
+  kUpcEAddOn2 = 19,       // 7 and 2 digits
+  kUpcEAddOn5 = 20,       // 7 and 5 digits
+  kInterleaved2of5 = 21,  // digits
+  kCode93FullAscii = 22   // every byte
 };
 
 // How the bars are filled.
@@ -71,7 +71,7 @@ enum class Pattern : std::int32_t {
 
 // What stands in front of the text of a Data Matrix.
 enum class CodeFormat : std::int32_t {
-  kPlain = 0,
+  kPlain = 0,    // nothing
   kFnc1 = 1,     // FNC1 in second position
   kMacro05 = 2,  // header of ISO/IEC 15434 format 05
   kMacro06 = 3   // header of ISO/IEC 15434 format 06

@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <type_traits>
 #include <utility>
 #include <vector>
 
 #include "support/AllocationProbe.h"
+#include "support/Modules.h"
 
 namespace {
 
@@ -164,6 +166,61 @@ TEST_F(Wrapper, ResultsAreReleasedWithTheirOwnerOnceAndCanMove) {
     EXPECT_GT(probe.LiveBlocks(), 2u);
   }
   EXPECT_EQ(probe.LiveBlocks(), 0u);
+}
+
+// How many letters the text of a type gives; 0 where it is refused.
+std::size_t LettersOf(Type type, const barhatch::Text& text) {
+  const auto modules = barhatch::GenerateModules(type, text);
+  return modules ? modules->View().size() : 0;
+}
+
+// The first modules of a Code 128 symbol of one digit pair.
+std::string StartOf(Type type) {
+  const auto modules = barhatch::GenerateModules(type, u"12");
+  return modules ? std::string(modules->View().substr(0, 11)) : "";
+}
+
+TEST_F(Wrapper, RetailTypesAreThoseOfTheirNames) {
+  const barhatch::Text digits = u"0123456789012345678";
+  const auto letters = [&](Type type, std::size_t count) {
+    EXPECT_EQ(LettersOf(type, digits.substr(0, count + 1)), 0u);
+    EXPECT_EQ(LettersOf(type, digits.substr(0, count - 1)), 0u);
+    return LettersOf(type, digits.substr(0, count));
+  };
+  const std::size_t ean13 = letters(Type::kEan13, 12);
+  const std::size_t upcA = letters(Type::kUpcA, 11);
+  const std::size_t ean8 = letters(Type::kEan8, 7);
+  const std::size_t upcE = letters(Type::kUpcE, 7);
+  EXPECT_EQ((std::vector<std::size_t>{ean13, upcA, ean8, upcE}),
+            (std::vector<std::size_t>{95, 95, 67, 51}));
+  // An add-on has 4 modules, 7 for each digit and 2 between digits.
+  const std::size_t gap = letters(Type::kEan13AddOn2, 14) - ean13 - 20;
+  EXPECT_EQ(letters(Type::kEan13AddOn5, 17) - ean13, gap + 47);
+  EXPECT_EQ(letters(Type::kUpcAAddOn2, 13) - upcA, gap + 20);
+  EXPECT_EQ(letters(Type::kUpcAAddOn5, 16) - upcA, gap + 47);
+  EXPECT_EQ(letters(Type::kEan8AddOn2, 9) - ean8, gap + 20);
+  EXPECT_EQ(letters(Type::kEan8AddOn5, 12) - ean8, gap + 47);
+  EXPECT_EQ(letters(Type::kUpcEAddOn2, 9) - upcE, gap + 20);
+  EXPECT_EQ(letters(Type::kUpcEAddOn5, 12) - upcE, gap + 47);
+}
+
+TEST_F(Wrapper, OtherTypesAreThoseOfTheirNames) {
+  using barhatch::test::Modules;
+  EXPECT_EQ(LettersOf(Type::kCodabar, u"A1B"), 3u * 8 - 1);
+  EXPECT_EQ(LettersOf(Type::kCode39, u"1"), 3u * 10 - 1);  // start, 1, stop
+  EXPECT_EQ(LettersOf(Type::kCode93, u"1"), 5u * 9 + 1);   // start, 1, C, K, stop
+  EXPECT_EQ(LettersOf(Type::kCode93, u"a"), 0u);
+  EXPECT_EQ(LettersOf(Type::kCode93FullAscii, u"a"), 6u * 9 + 1);  // a takes two characters
+  EXPECT_EQ(LettersOf(Type::kInterleaved2of5, u"12"), 4u + 10 + 3);
+  EXPECT_EQ(LettersOf(Type::kMsi, u"12"), 3u + 3 * 12 + 4);  // two digits and the check digit
+  EXPECT_EQ(LettersOf(Type::kMsi, u"-"), 0u);
+  EXPECT_GT(LettersOf(Type::kCode11, u"-"), 0u);
+  EXPECT_EQ(LettersOf(Type::kCode11, u"A"), 0u);
+  EXPECT_EQ(StartOf(Type::kCode128FromA), Modules("11010000100"));
+  EXPECT_EQ(StartOf(Type::kCode128B), Modules("11010010000"));
+  EXPECT_EQ(StartOf(Type::kCode128FromC), Modules("11010011100"));
+  EXPECT_EQ(LettersOf(Type::kCode128, u"ab"), LettersOf(Type::kCode128B, u"ab"));
+  EXPECT_LT(LettersOf(Type::kCode128, u"123456"), LettersOf(Type::kCode128B, u"123456"));
 }
 
 }  // namespace
