@@ -37,6 +37,24 @@ TEST(ModuleStringBuilder, HasRoomForWhatWasAnnouncedWhereTheUsualCapacityIsTooSm
   EXPECT_EQ(Take(builder.Release()), "AAAAA");
 }
 
+TEST(ModuleStringBuilder, HasRoomForTheNulWhereTheLettersAloneFillTheUsualCapacity) {
+  for (std::size_t usualCapacity : {4u, 5u, 6u, 7u}) {
+    ModuleStringBuilder builder(usualCapacity, 5);
+    builder.AppendModules("11111");
+    EXPECT_EQ(Take(builder.Release()), "AAAAA") << usualCapacity;
+  }
+}
+
+// The sanitizers see whether a letter more is written.
+TEST(ModuleStringBuilder, FillsItsRoomToTheLastLetter) {
+  ModuleStringBuilder elements(1, 4);
+  elements.AppendElements("0110");
+  EXPECT_EQ(Take(elements.Release()), "AbBa");
+  ModuleStringBuilder interleaved(1, 6);
+  interleaved.AppendInterleaved<3>("010", "110");
+  EXPECT_EQ(Take(interleaved.Release()), "AbBbAa");
+}
+
 TEST(ModuleStringBuilder, AnEmptyStringIsAString) {
   ModuleStringBuilder builder(1, 0);
   EXPECT_EQ(Take(builder.Release()), "");
