@@ -463,7 +463,7 @@ RULES = [
                ("shortfall) + 1", "shortfall) + 0", "shortfall) + 2")),
     *constants(HATCH + "GrowableArray.h", ("kInitialCapacity = 16", "kInitialCapacity = 15", "kInitialCapacity = 17"),
                ("2 * capacity_", "3 * capacity_", "capacity_ + 1"), ("RoomFor(1)", "RoomFor(2)")),
-    *constants(HATCH + "HatchLists.h", ("RoomFor(4)", "RoomFor(5)"), ("RoomFor(2)", "RoomFor(3)"),
+    *constants(HATCH + "HatchLists.h", ("RoomFor(4)", "RoomFor(5)"),
                ("room[2] = xb", "room[2] = xa")),
     *constants(HATCH + "LinePatterns.cpp",
                ("kDoublesPerSegment = 4", "kDoublesPerSegment = 3", "kDoublesPerSegment = 5"),

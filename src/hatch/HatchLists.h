@@ -29,13 +29,6 @@ class CoordinateList : public GrowableArray<double> {
       room[3] = yb;
     }
   }
-
-  void AppendPoint(double x, double y) {
-    if (double* room = RoomFor(2)) {
-      room[0] = x;
-      room[1] = y;
-    }
-  }
 };
 
 }  // namespace barhatch

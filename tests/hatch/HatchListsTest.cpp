@@ -26,14 +26,14 @@ TEST(RectList, SeventeenAppendsDoubleTheCapacityAndKeepTheOrder) {
   for (std::size_t i = 0; i < 17; ++i) EXPECT_EQ(list[i].lowerLeft.x, static_cast<double>(i));
 }
 
-TEST(CoordinateList, SegmentsAndPointsFollowTheSameGrowthRule) {
+TEST(CoordinateList, SegmentsFollowTheSameGrowthRule) {
   CoordinateList list;
   for (int i = 0; i < 4; ++i) list.AppendSegment(4 * i, 4 * i + 1, 4 * i + 2, 4 * i + 3);
   EXPECT_EQ(list.Capacity(), 16u);
-  list.AppendPoint(16, 17);
+  list.AppendSegment(16, 17, 18, 19);
   EXPECT_EQ(list.Capacity(), 32u);
-  ASSERT_EQ(list.Count(), 18u);
-  for (std::size_t i = 0; i < 18; ++i) EXPECT_EQ(list[i], static_cast<double>(i));
+  ASSERT_EQ(list.Count(), 20u);
+  for (std::size_t i = 0; i < 20; ++i) EXPECT_EQ(list[i], static_cast<double>(i));
 }
 
 TEST(CoordinateList, CountedCapacityIsTakenAsItIs) {
@@ -60,12 +60,12 @@ TEST(CoordinateList, TooLargeAListFailsAndLosesNothingElse) {
 
 TEST(CoordinateList, ReleaseHandsTheArrayOverAndEmptiesTheList) {
   CoordinateList list;
-  list.AppendPoint(1.5, 2.5);
+  list.AppendSegment(1.5, 2.5, 3.5, 4.5);
   const std::unique_ptr<double[]> array(list.Release());
   EXPECT_EQ(array[1], 2.5);
   EXPECT_EQ(list.Count(), 0u);
-  list.Append(3.5);
-  EXPECT_EQ(list[0], 3.5);
+  list.Append(5.5);
+  EXPECT_EQ(list[0], 5.5);
 }
 
 TEST(HatchRect, OffsetMovesBothCorners) {

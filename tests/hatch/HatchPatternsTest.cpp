@@ -173,6 +173,12 @@ TEST(HatchPatterns, UnusableGapsFillNothing) {
   }
 }
 
+TEST(HatchPatterns, TheLargestFiniteGapStillMarksTheStrokeAtTheOrigin) {
+  constexpr double kLargest = std::numeric_limits<double>::max();
+  EXPECT_EQ(Fill({{0, 0, 1, 2}}, 0, kLargest), (std::vector<double>{0, 0, 1, 0}));
+  EXPECT_EQ(Fill({{0, 0, 1, 2}}, 1, kLargest), (std::vector<double>{0, 0, 0, 2}));
+}
+
 TEST(HatchPatterns, GapsTooSmallToCountAreFoundBeforeFilling) {
   for (int type : {0, 1, 2, 3, 5}) {
     for (double gap : {5e-324, 1e-300, 1e-17, 1e-12, 1e-10}) {
