@@ -6,6 +6,7 @@
 #include <random>
 #include <vector>
 
+#include "hatch/LinePatterns.h"
 #include "support/Fills.h"
 #include "support/PlainHatcher.h"
 
@@ -156,6 +157,11 @@ TEST(Centres, NeedNoLineGap) {
     EXPECT_EQ(Fill({{0, 0, 1, 4}}, 6, gap).size(), 2u);
 }
 
+TEST(Centres, AreCountedAsLongAsBufferLengthHoldsThem) {
+  EXPECT_EQ(CentreDoubles(1073741823), 2147483646);
+  EXPECT_EQ(CentreDoubles(1073741824), kUncountable);
+}
+
 TEST(HatchPatterns, FourAndUnknownTypesFillNothing) {
   for (int type :
        {4, 7, -1, 100, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
@@ -195,6 +201,18 @@ TEST(HatchPatterns, AResultOfMoreDoublesThanBufferLengthHoldsIsFoundBeforeFillin
   EXPECT_EQ(Most({{0, 0, 1, 300000000}, {2, 0, 3, 300000000}}, 2, 1.0), kUncountable);
   EXPECT_EQ(Most({{0, 0, 300000000, 1}, {0, 0, 300000000, 1}}, 1, 1.0), kUncountable);
   EXPECT_EQ(Most({{0, 0, 536870912, 536870912}}, 5, 1.0), kUncountable);
+}
+
+TEST(HatchPatterns, AFillOneLineShortOfTheLargestBufferIsCounted) {
+  // 1103 rectangles, 486,737 lines across all of them: 536,870,911 segments.
+  const std::vector<PlainRect> rects(1103, {0, 0, 1, 486736});
+  EXPECT_GE(Most(rects, 0, 1.0), 4 * DoubleCount{1103} * 486736);
+}
+
+TEST(Spiral, IsNoneWhereABoundRoundsToInfinity) {
+  constexpr double kLargest = std::numeric_limits<double>::max();
+  EXPECT_EQ(Most({{0, 0, kLargest, 1}}, 5, kLargest / 1.7), kUncountable);
+  EXPECT_EQ(Most({{0, 0, 1, kLargest}}, 5, kLargest / 1.7), kUncountable);
 }
 
 TEST(HatchPatterns, StrokesThatFit32BitsWithoutTheirSignAreTooManyAsWell) {

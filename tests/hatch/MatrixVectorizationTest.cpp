@@ -110,14 +110,18 @@ TEST_F(MatrixVectorization, NothingToFillIsNullAndSetsTheExtents) {
   }
 }
 
-TEST_F(MatrixVectorization, AMatrixWithoutModulesIsNull) {
+TEST_F(MatrixVectorization, AMatrixWithoutModulesIsNullAndLeavesTheExtentsAlone) {
   Hatcher hatcher;
+  CurrentSettings().FillHeight = 7.0;
+  CurrentSettings().FillWidth = 8.0;
   char data[] = "A";
   EXPECT_EQ(hatcher.VectorizeMatrix({0, 0, nullptr}), nullptr);
   EXPECT_EQ(hatcher.VectorizeMatrix({0, 1, data}), nullptr);
   EXPECT_EQ(hatcher.VectorizeMatrix({1, 0, data}), nullptr);
   EXPECT_EQ(hatcher.VectorizeMatrix({-1, -1, data}), nullptr);
   EXPECT_EQ(hatcher.VectorizeMatrix({1, 1, nullptr}), nullptr);
+  EXPECT_EQ(CurrentSettings().FillHeight, 7.0);
+  EXPECT_EQ(CurrentSettings().FillWidth, 8.0);
 }
 
 // Row by row from the bottom with the plain step and the plain patterns.
