@@ -1,0 +1,164 @@
+"""What scripts/mutate --operators changes: every comparison, condition and arithmetic operator of src/, and every
+statement that can be left out. Found by the spaces that the formatter puts around binary operators, outside of comments,
+texts, and what the compiler alone evaluates (static_assert and the functions that only stand for one).
+"""
+import re
+
+from mutation_rules import Mutant
+
+BINARY = {
+    "<": ("<=",), "<=": ("<",), ">": (">=",), ">=": (">",), "==": ("!=",), "!=": ("==",),
+    "&&": ("||",), "||": ("&&",), "+": ("-",), "-": ("+",), "*": ("/",), "/": ("*",), "%": ("/",),
+    "<<": (">>",), ">>": ("<<",), "&": ("|",), "|": ("&",), "^": ("|",),
+    "+=": ("-=",), "-=": ("+=",), "*=": ("/=",), "/=": ("*=",), "|=": ("&=",), "^=": ("|=",), "<<=": (">>=",),
+}
+OPERATOR = re.compile(r"(?<= )(" + "|".join(sorted(map(re.escape, BINARY), key=len, reverse=True)) + r")(?=[ \n])")
+STEP = re.compile(r"\+\+|--")
+NEGATION = re.compile(r"(?<![\w)])!(?=[\w(])")
+CONDITION = re.compile(r"\b(?:if|while) \(")
+ANSWER = re.compile(r"\breturn (true|false);")
+# A call whose result nobody wants, or an assignment: one line that no type begins.
+STATEMENT = re.compile(r"^ +((?!(?:return|case|using|delete|default)\b)[\w.:\[\]>*()-]+(?:<\w+>)?"
+                       r"(?:\(.*\)| [-+*/|&^]?= .*));$", re.MULTILINE)
+HIDDEN = re.compile(r"//[^\n]*|/\*.*?\*/|\"(?:\\.|[^\"\\\n])*\"|'(?:\\.|[^'\\\n])'|^ *#[^\n]*(?:\\\n[^\n]*)*",
+                    re.DOTALL | re.MULTILINE)
+
+
+def blank(text, start, end):
+    return text[:start] + re.sub(r"[^\n]", "\x00", text[start:end]) + text[end:]
+
+
+def without_hidden(text):
+    for found in HIDDEN.finditer(text):
+        text = blank(text, *found.span())
+    return text
+
+
+def closing(text, start, pair="{}"):
+    depth = 0
+    for at in range(start, len(text)):
+        depth += {pair[0]: 1, pair[1]: -1}.get(text[at], 0)
+        if depth == 0 and text[at] == pair[1]:
+            return at + 1
+    raise LookupError("no closing " + pair[1])
+
+
+def without_proofs(text):
+    """Blanks static assertions and the constexpr functions that nothing else uses."""
+    assertions = [(m.start(), closing(text, m.end() - 1, "()")) for m in re.finditer(r"\bstatic_assert\(", text)]
+    functions = {}
+    for found in re.finditer(r"^constexpr [\w:]+[&*]? (\w+)\(", text, re.MULTILINE):
+        body = text.find("{", found.end())
+        if body >= 0:
+            functions[found[1]] = (found.start(), closing(text, body))
+    proofs = list(assertions)
+    grown = True
+    while grown:
+        grown = False
+        for name, span in list(functions.items()):
+            uses = [m.start() for m in re.finditer(rf"\b{name}\b", text)]
+            outside = [at for at in uses if not any(a <= at < b for a, b in proofs + [span])]
+            if not outside:
+                proofs.append(functions.pop(name))
+                grown = True
+    for start, end in proofs:
+        text = blank(text, start, end)
+    return text
+
+
+def asserted(text):
+    """assert() states what holds; a weaker statement holds as well."""
+    for found in list(re.finditer(r"\bassert\(", text)):
+        text = blank(text, found.start(), closing(text, found.end() - 1, "()"))
+    return text
+
+
+def changes(text):
+    for found in OPERATOR.finditer(text):
+        for after in BINARY[found[1]]:
+            yield found.start(1), found.end(1), "operator", after
+    for found in STEP.finditer(text):
+        yield found.start(), found.end(), "step", "--" if found[0] == "++" else "++"
+    for found in NEGATION.finditer(text):
+        yield found.start(), found.end(), "negation", ""
+    for found in CONDITION.finditer(text):
+        end = closing(text, found.end() - 1, "()")
+        if re.search(r"[^=!<>]=[^=]", text[found.end():end]) is None:  # declares nothing
+            yield found.end() - 1, end, "condition", "(!" + text[found.end() - 1:end] + ")"
+    for found in ANSWER.finditer(text):
+        yield found.start(1), found.end(1), "answer", "false" if found[1] == "true" else "true"
+
+
+def left_out(text):
+    for found in STATEMENT.finditer(text):
+        yield found.start(1), found.end(1), "statement", ""
+
+
+# Offsets for the compiler alone, and what only the device's loader calls.
+NOT_PRODUCT = {"src/api/RecordLayout.cpp"}
+
+# Mutants that no test can tell from the original: file, what the line says, what it says then, the reason.
+EQUIVALENT = (
+    ("Code11Symbology.cpp", "6 * (length", "6 / (length", "the usual 24,936 bytes hold the longest text"),
+    ("Code11Symbology.cpp", "4) - 1", "4) + 1", "the usual 24,936 bytes hold the longest text"),
+    ("Code11Symbology.cpp", "1 + 2 *", "1 - 2 *", "the usual 24,936 bytes hold the longest text"),
+    ("Interleaved2of5Symbology.cpp", "4 + 3", "4 - 3", "the usual 24,936 bytes hold the longest text"),
+    ("Interleaved2of5Symbology.cpp", "textLength + checkDigits) % 2", "textLength - checkDigits) % 2",
+     "a sum and a difference are odd together"),
+    ("EanUpcElements.cpp", "(count - i) % 2", "(count + i) % 2", "a sum and a difference are odd together"),
+    ("Code39Symbology.cpp", "index >= 0 ?", "index > 0 ?", "the signs begin at row 36"),
+    ("Code93Characters.cpp", "value < kCode93CheckModulus", "value <= kCode93CheckModulus",
+     "one row more is that of start/stop, which nobody looks up by name"),
+    ("Code93Characters.cpp", "index < 0 ?", "index <= 0 ?", "NUL has no value, as what is no ASCII character has none"),
+    ("MsiSymbology.cpp", "digit - 10 + 1", "digit + 10 + 1", "two tens more change no check digit"),
+    ("MsiSymbology.cpp", "digit - '0'", "digit + '0'", "the lowest four bits stay"),
+    ("ModuleStringBuilder.cpp", "1 > usualCapacity", "1 >= usualCapacity", "of two equal numbers either is the larger"),
+    ("ModuleStringBuilder.h", "i < kCount", "i <= kCount", "the letter behind is overwritten by the next one or by the NUL"),
+    ("AsciiEncodation.cpp", "(number - 127) % 254", "(number + 127) % 254", "254 apart"),
+    ("AsciiEncodation.cpp", "(number - 16383) % 254", "(number + 16383) % 254", "129 x 254 apart"),
+    ("LookAhead.cpp", "(mode != static_cast<int>(candidate) && counts.counts[mode] <= counts[candidate])",
+     "(!(mode != static_cast<int>(candidate) && counts.counts[mode] <= counts[candidate]))",
+     "a shortcut less: the choices behind it are tried one by one and agree"),
+    ("LookAhead.cpp", "  return true;", "  return false;",
+     "a shortcut less: the choices behind it are tried one by one and agree"),
+    ("LookAhead.cpp", "digitsEnd_ < position_", "digitsEnd_ <= position_", "assigns what is there already"),
+    ("HatchGrid.cpp", "value < 0.0", "value <= 0.0", "-0.0 and 0.0 are equally far from everything"),
+    ("HatchGrid.cpp", "> Magnitude(end)", ">= Magnitude(end)", "of two equal numbers either is the larger"),
+    ("Code128Patterns.cpp", "i < 6", "i <= 6", "the NUL behind the six widths is no width"),
+    ("Hatcher.cpp", "mostDoubles <= 0", "mostDoubles < 0", "a list of nothing makes no fill either"),
+    ("LinePatterns.cpp", "strokes > kMostDoubles", "strokes >= kMostDoubles", "so many are refused with their coordinates"),
+    ("SpiralPattern.cpp", "lower = lowEdge", "", "every bound is 0.0 from the start"),
+    ("GrowableArray.h", "capacity > static_cast", "capacity >= static_cast", "nobody has so much memory"),
+    ("GrowableArray.h", "PTRDIFF_MAX) / sizeof", "PTRDIFF_MAX) * sizeof",
+     "this compiler checks as well and gives null; others end the program"),
+    ("ApiTrace.cpp", "std::memcpy(&value, &bits, sizeof value)", "", "a double of a low word alone prints as 0.000000"),
+    ("ApiTrace.cpp", 'std::fprintf(stream_, "%ls", static_cast<const wchar_t*>(static_cast<const void*>(text)))', "",
+     "runs where wchar_t has 16 bits alone"),
+    ("ApiTrace.cpp", "  std::fflush(traceStream);", "  ;", "closing writes out as well"),
+)
+
+
+def reason_it_is_equivalent(mutant, text):
+    first, last = text.rfind("\n", 0, mutant.start) + 1, text.find("\n", mutant.end)
+    line, changed = text[first:last], text[first:mutant.start] + mutant.after + text[mutant.end:last]
+    for file, before, after, reason in EQUIVALENT:
+        if mutant.file.endswith(file) and before in line and line.replace(before, after, 1) == changed:
+            return reason
+    return None
+
+
+def all_mutants(root):
+    for path in sorted(root.glob("src/**/*.cpp")) + sorted(root.glob("src/**/*.h")):
+        name = path.relative_to(root).as_posix()
+        if name in NOT_PRODUCT:
+            continue
+        text = path.read_text(encoding="utf-8")
+        visible = asserted(without_proofs(without_hidden(text)))
+        found = list(changes(visible))
+        if path.suffix == ".cpp":  # in a header they are declarations
+            found += left_out(visible)
+        for start, end, what, after in sorted(found):
+            if "\x00" in after:
+                after = "(!" + text[start:end] + ")"
+            line = text.count("\n", 0, start) + 1
+            yield Mutant(name, start, end, line, what, text[start:end], after, ())
