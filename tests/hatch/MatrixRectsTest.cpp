@@ -5,9 +5,10 @@
 namespace barhatch {
 namespace {
 
-// Two rows, the top one first: dark light light, light light light.
+// Two rows, the top one first: dark light light, light light light. The dark letter behind them is
+// no module.
 struct OneDarkModule {
-  char letters[6] = {'A', 'a', 'a', 'a', 'a', 'a'};
+  char letters[7] = {'A', 'a', 'a', 'a', 'a', 'a', 'A'};
   TwoDStringResult matrix{2, 3, letters};
 };
 
