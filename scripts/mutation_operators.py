@@ -121,6 +121,7 @@ EQUIVALENT = (
      "a shortcut less: the choices behind it are tried one by one and agree"),
     ("LookAhead.cpp", "  return true;", "  return false;",
      "a shortcut less: the choices behind it are tried one by one and agree"),
+    ("ThirdsSum.cpp", "pass.end < pass.begin", "pass.end <= pass.begin", "assigns what is there already"),
     ("LookAhead.cpp", "digitsEnd_ < position_", "digitsEnd_ <= position_", "assigns what is there already"),
     ("HatchGrid.cpp", "value < 0.0", "value <= 0.0", "-0.0 and 0.0 are equally far from everything"),
     ("HatchGrid.cpp", "> Magnitude(end)", ">= Magnitude(end)", "of two equal numbers either is the larger"),
