@@ -113,7 +113,9 @@ class Reader {
     upper_ = 0;
     int values[3];
     while (reading_.isSound && NextTriple(values)) {
-      for (const int value : values) ReadC40OrTextValue(value, isC40);
+      for (const int value : values) {
+        if (reading_.isSound) ReadC40OrTextValue(value, isC40);
+      }
     }
   }
 

@@ -15,7 +15,7 @@ namespace barhatch::test {
 struct ExpectedMatrixReading {
   std::optional<ReferenceSize> size;  // none: the text is refused
   Reading reading;                    // sound or not, with what stands in front of the break
-  std::string ids;                    // one or more of these rows touch the text
+  std::string ids;                    // the rows that change what is read, up to the break
 };
 
 ExpectedMatrixReading ExpectedReadingOfMatrix(const std::u16string& text, int codeFormat,

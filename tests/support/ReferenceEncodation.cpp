@@ -87,7 +87,13 @@ class Encoder {
   void Read(int item) {
     if (!result_.isAstray) result_.reading.push_back(item);
   }
-  void LeadAstray() { result_.isAstray = true; }
+  void Touch(const std::string& id) {
+    if (!result_.isAstray) result_.ids.insert(id);
+  }
+  void LeadAstray(const std::string& id) {
+    Touch(id);
+    result_.isAstray = true;
+  }
 
   void Macro(int codeword, int item) {
     Put(codeword);
@@ -97,8 +103,9 @@ class Encoder {
   void CheckFnc1() {
     if (codeFormat_ != 1 || N() != 1) return;
     Put(232);
-    if (mode_ != kAscii) LeadAstray();
+    if (mode_ != kAscii) LeadAstray("D-DM-6");
     Read(kReadFnc1);
+    isFnc1Written_ = true;
   }
 
   // Data codewords of the symbol for n codewords.
@@ -132,6 +139,9 @@ class Encoder {
       Put(235);
       Put(c - 128);
       Read(c - 1);
+      Touch("D-DM-3");
+    } else {
+      Touch("D-DM-4");
     }
   }
 
@@ -233,8 +243,10 @@ class Encoder {
       for (int i = 0; i < 4; ++i) {
         const int value = text_[p_++] % 64;
         bits += Binary(value, 6);
-        if (value == 31) LeadAstray();
-        Read(value < 32 ? value + 64 : value);
+        const int read = value < 32 ? value + 64 : value;
+        if (read != text_[p_ - 1]) Touch("D-DM-9");
+        if (value == 31) LeadAstray("D-DM-9");
+        Read(read);
       }
       for (std::size_t i = 0; i < 24; i += 8) Put(FromBinary(bits.substr(i, 8)));
       const int mode = PlainAhead(4) == 4 ? SlowLookAhead(narrow_, p_, kEdifact) : kEdifact;
@@ -314,7 +326,7 @@ class Encoder {
   void LeaveTriples(std::size_t begin, std::size_t end, int mode) {
     PackTriples(begin, LastPlaceToLeave(begin, end));
     if (p_ == end && N() + 1 == S()) {
-      LeadAstray();
+      LeadAstray("D-DM-7");
     } else {
       Unlatch();
     }
@@ -343,9 +355,11 @@ class Encoder {
       if (*capacity - brace.count > 2) continue;
       result_.reading.insert(
           result_.reading.begin() + static_cast<std::ptrdiff_t>(brace.item + inserted++), '{');
+      result_.ids.insert("D-DM-10");
     }
     const int tolerated = mode_ == kEdifact ? 2 : 1;
-    if (omittedAt_ >= 0 && *capacity - omittedAt_ > tolerated) LeadAstray();
+    if (omittedAt_ >= 0 && *capacity - omittedAt_ > tolerated) LeadAstray("D-DM-7");
+    if (codeFormat_ == 1 && !isFnc1Written_) Touch("D-DM-6");
   }
 
   struct Brace {
@@ -360,6 +374,7 @@ class Encoder {
   std::size_t p_ = 0;
   int mode_ = kAscii;
   int omittedAt_ = -1;
+  bool isFnc1Written_ = false;
   std::vector<Brace> braces_;
   ReferenceEncodation result_;
 };

@@ -5,6 +5,7 @@
 #ifndef BARHATCH_TESTS_SUPPORT_REFERENCEENCODATION_H
 #define BARHATCH_TESTS_SUPPORT_REFERENCEENCODATION_H
 
+#include <set>
 #include <string>
 #include <vector>
 
@@ -22,6 +23,8 @@ struct ReferenceEncodation {
   std::vector<int> reading;
   // True when a deviation leads the reader astray behind the reading; anything may follow.
   bool isAstray = false;
+  // The rows of the register that change what is read: "D-DM-3" etc.
+  std::set<std::string> ids;
 };
 
 // codeFormat: 2 and 3 put the macro header in front.
