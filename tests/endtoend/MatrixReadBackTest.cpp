@@ -367,7 +367,7 @@ void ExpectEndsRead(const ReferenceSize& size, int first, int second, ReadTally&
     for (int format = 0; format < formats; ++format) {
       request.codeFormat = (step + format) % 4;
       // libdmtx takes longer and judges a share.
-      const int everyReader = (first + second + step + format) % (size.data <= 12 ? 36 : 18);
+      const int everyReader = (first + second + step + format) % (size.data <= 12 ? 18 : 9);
       for (request.isExpanding = 0; request.isExpanding <= 2; ++request.isExpanding) {
         const bool isForAll = everyReader == request.isExpanding;
         ExpectAsPredicted(request, isForAll ? Chain::kEveryReader : Chain::kPicture, tally);
