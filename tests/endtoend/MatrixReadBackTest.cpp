@@ -341,8 +341,9 @@ TEST_P(MatrixReadBackOfClasses, EverySequenceOfCharacters) {
 
 INSTANTIATE_TEST_SUITE_P(UpToSix, MatrixReadBackOfClasses, testing::Range(1, 7));
 
-// The last codewords: texts of one class or of two, as long as leaves 0 to 3 codewords and a little
-// more or less, for each size asked for and for the smallest square, in every format.
+// The last codewords: texts of one class or of two that leave 0 to 6 codewords, of which a header
+// or FNC1 takes one, for each size asked for and for the smallest square; in small sizes every
+// number that is left with every format.
 void ExpectEndsRead(const ReferenceSize& size, int first, int second, ReadTally& tally) {
   std::mt19937 random(static_cast<unsigned>(size.rows * 1000 + size.columns + first * 9 + second));
   const std::string heads = CharactersOfClass(first);
@@ -352,7 +353,7 @@ void ExpectEndsRead(const ReferenceSize& size, int first, int second, ReadTally&
     const std::string& from = i < size.data / 2 ? heads : tails;
     whole += from[Below(random, from.size())];
   }
-  for (int step = 0; step < 6; ++step) {
+  for (int step = 0; step < 7; ++step) {
     // The longest text that has `step` codewords to spare, by halving.
     std::size_t fits = 1;
     std::size_t fails = whole.size() + 1;
