@@ -28,6 +28,13 @@ TEST(DataMatrixReader, AsciiPairsAndPads) {
   EXPECT_FALSE(ReadDataCodewords({235}).isSound);
 }
 
+// Shift 3 has no value 33: 1600 x 2 + 40 x 33 + 20 + 1 = 4541 = 17 x 256 + 189.
+TEST(DataMatrixReader, NothingIsReadBehindABreakWithinAGroup) {
+  const Reading reading = ReadDataCodewords({66, 230, 17, 189});
+  EXPECT_FALSE(reading.isSound);
+  EXPECT_EQ(reading.items, ItemsOf("A"));
+}
+
 TEST(DataMatrixReader, C40OfThePublishedWordAim) {
   // A I M = 14 22 26: 1600 x 14 + 40 x 22 + 26 + 1 = 23307 = 91 x 256 + 11
   ExpectReading({230, 91, 11, 91, 11, 91, 11, 254}, ItemsOf("AIMAIMAIM"));
