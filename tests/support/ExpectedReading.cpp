@@ -191,21 +191,27 @@ ExpectedReading OfCode128FromA(std::string text) {
   return expected;
 }
 
-// Beyond the limit the values as a clerk counts them tell what is dropped; the published symbology
-// tells what they mean.
-ExpectedReading BeyondTheLimit(int type, const std::string& text) {
+// A text within the limit.
+ExpectedReading OfWholeCode128(int type, const std::string& text) {
+  if (type == 5) return OfCode128Auto(text);
+  if (type == 6) return OfCode128FromA(text);
+  return {text, "", ""};
+}
+
+// Where the limit may be reached the values as a clerk counts them tell what is dropped, which is
+// nothing as long as pairs of digits keep them few; the published symbology tells what they mean.
+ExpectedReading NearTheLimit(int type, const std::string& text) {
   std::string letters;
   for (int value : Code128StepValues(type, text)) letters += Code128Letters(value);
   const auto reading = ReadCode128(letters + Code128Letters(106) + "AA");
   if (!reading) return Unreadable("none: the values are no symbol");
-  return {reading->text, "", "D-128-3"};
+  const ExpectedReading whole = OfWholeCode128(type, text);
+  return whole.text == reading->text ? whole : ExpectedReading{reading->text, "", "D-128-3"};
 }
 
 ExpectedReading OfCode128(int type, const std::string& text) {
-  if (text.size() > (type == 6 ? 78 : 79)) return BeyondTheLimit(type, text);
-  if (type == 5) return OfCode128Auto(text);
-  if (type == 6) return OfCode128FromA(text);
-  return {text, "", ""};
+  return text.size() > (type == 6 ? 78 : 79) ? NearTheLimit(type, text)
+                                             : OfWholeCode128(type, text);
 }
 
 ExpectedReading OfEanUpc(int type, const std::string& text) {
