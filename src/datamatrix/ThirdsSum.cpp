@@ -1,5 +1,7 @@
 #include "datamatrix/ThirdsSum.h"
 
+#include <cassert>
+
 namespace barhatch {
 
 namespace {
@@ -25,9 +27,9 @@ void ThirdsSum::Count(Tally& tally, std::size_t index, int sign) {
 }
 
 void ThirdsSum::MoveBegin(Pass& pass, std::size_t position) {
-  for (std::size_t i = pass.begin; i < position && i < pass.end; ++i) Count(pass.tally, i, -1);
+  assert(position <= pass.end);
+  for (std::size_t i = pass.begin; i < position; ++i) Count(pass.tally, i, -1);
   pass.begin = static_cast<std::uint16_t>(position);
-  if (pass.end < pass.begin) pass.end = pass.begin;
 }
 
 void ThirdsSum::MoveEnd(Pass& pass, int limitThirds) {
