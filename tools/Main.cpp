@@ -39,11 +39,8 @@ int RunOne(const Options& options) {
   std::string reason;
   const std::optional<Symbol> symbol = MakeSymbol(options.request, reason);
   if (!symbol) {
-    PrintError(reason);
+    if (!options.explain) PrintError(reason);  // the explanation has said it
     return kRefused;
-  }
-  if (!options.quiet) {
-    fmt::print("{}\n{}", Headline(*symbol, options.speeds), Facts(*symbol, options.speeds));
   }
   const Look look = LookOf(options, symbol->drawing.width);
   for (const std::string& path : options.outputs) {
@@ -51,6 +48,9 @@ int RunOne(const Options& options) {
     if (reason.empty()) continue;
     PrintError(reason);
     return kRefused;
+  }
+  if (!options.quiet) {
+    fmt::print("{}\n{}", Headline(*symbol, options.speeds), Facts(*symbol, options.speeds));
   }
   return options.verify ? VerifyAndTell(*symbol, options) : kDone;
 }

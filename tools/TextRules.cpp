@@ -143,9 +143,11 @@ std::size_t CollapsedPercentPairs(std::string_view text) {
 
 std::string LengthReason(const TypeRule& rule, std::size_t length) {
   if (length == 0) return fmt::format("{} takes no empty text", rule.name);
-  const std::string limit = rule.shortest == rule.longest ? fmt::format("{}", rule.longest)
-                                                          : fmt::format("at most {}", rule.longest);
-  return fmt::format("{} takes {} characters, not {}", rule.name, limit, length);
+  if (rule.shortest == rule.longest) {  // the retail symbols
+    return fmt::format("{} takes {} digits, besides the check digit, not {}", rule.name,
+                       rule.longest, length);
+  }
+  return fmt::format("{} takes at most {} characters, not {}", rule.name, rule.longest, length);
 }
 
 bool IsUpcE(std::int32_t type) { return type == 10 || type == 19 || type == 20; }

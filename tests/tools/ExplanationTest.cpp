@@ -202,7 +202,8 @@ TEST(Explanation, DataMatrixTextsAroundEveryCapacity) {
 TEST(Explanation, SaysWhyInASentence) {
   EXPECT_EQ(Explain(Linear(1, u"abc")).reason,
             "code39 takes digits, A to Z, - . $ / + % * and space; character 1 is 'a'");
-  EXPECT_EQ(Explain(Linear(3, u"123")).reason, "ean13 takes 12 characters, not 3");
+  EXPECT_EQ(Explain(Linear(3, u"123")).reason,
+            "ean13 takes 12 digits, besides the check digit, not 3");
   EXPECT_EQ(Explain(Linear(0, u"")).reason, "codabar takes no empty text");
   EXPECT_EQ(Explain(Linear(10, u"2345678")).reason,
             "the number system, the first digit of upce, is 0 or 1, not 2");
