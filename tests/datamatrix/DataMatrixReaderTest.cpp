@@ -35,6 +35,13 @@ TEST(DataMatrixReader, NothingIsReadBehindABreakWithinAGroup) {
   EXPECT_EQ(reading.items, ItemsOf("A"));
 }
 
+// 1 30 1 = 2802 = 10 x 256 + 242, 27 3 3 = 43324 = 169 x 256 + 60: FNC1 has no upper half.
+TEST(DataMatrixReader, AnUpperShiftInFrontOfFnc1IsABreak) {
+  const Reading reading = ReadDataCodewords({66, 230, 10, 242, 169, 60});
+  EXPECT_FALSE(reading.isSound);
+  EXPECT_EQ(reading.items, ItemsOf("A"));
+}
+
 TEST(DataMatrixReader, C40OfThePublishedWordAim) {
   // A I M = 14 22 26: 1600 x 14 + 40 x 22 + 26 + 1 = 23307 = 91 x 256 + 11
   ExpectReading({230, 91, 11, 91, 11, 91, 11, 254}, ItemsOf("AIMAIMAIM"));
@@ -79,6 +86,7 @@ TEST(DataMatrixReader, DesignatorsAndMacros) {
 TEST(DataMatrixReader, Base256IsUnrandomised) {
   // Position 2: 149 x 2 mod 255 + 1 = 44; 1 + 44. Position 3: 149 x 3 mod 255 + 1 = 193; 65 + 193.
   ExpectReading({231, 45, 2, 129}, ItemsOf("A"));
+  EXPECT_FALSE(ReadDataCodewords({66, 231}).isSound);  // no length
 }
 
 TEST(DataMatrixReader, PadsAreRandomisedByPosition) {

@@ -6,11 +6,14 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdio>
 #include <cstdlib>
+#include <iterator>
 #include <optional>
 #include <random>
 #include <stdexcept>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "ReadTally.h"
@@ -45,7 +48,7 @@ constexpr Image kImages[] = {Image::kPlain, Image::kPlainWithQuietZone, Image::k
 
 struct MatrixRequest {
   ReferenceSize size;
-  std::string text;
+  std::u16string text;  // units above 255 are ECI designators
   int pattern;
   Image image;
   int codeFormat = 0;
@@ -72,7 +75,7 @@ MarkParameters ParametersOf(const MatrixRequest& request, double pixelsPerModule
 }
 
 OwnedFill Generate(const MatrixRequest& request) {
-  const Text16 text = Widen(request.text);
+  const Text16 text(request.text.begin(), request.text.end());
   DataMatrixBarcodeInfo info{};
   info.height = request.size.rows + BorderOf(request);
   info.DataString = text.c_str();
@@ -114,8 +117,8 @@ std::optional<ReadResult> ReadByDmtx(const FillBufferInfo& fill, const MatrixReq
 // of them, so that the damage it can repair is left to the part's life.
 TEST(MatrixReadBackOfTheLargestSymbol, EveryModuleOfThePictureIsThatOfThePoints) {
   for (int size : {8, 29}) {
-    const MatrixRequest points{ReferenceSizes()[static_cast<std::size_t>(size)], "4711 and 0815", 6,
-                               Image::kPlain};
+    const MatrixRequest points{ReferenceSizes()[static_cast<std::size_t>(size)], u"4711 and 0815",
+                               6, Image::kPlain};
     const auto modules = [](const MatrixRequest& request) {
       const MarkParameters parameters = ParametersOf(request, kPixelsPerModule);
       return SampleModules(MarkStrokes(*Generate(request), parameters), parameters,
@@ -161,29 +164,40 @@ bool HasErrorCodewords(const std::vector<int>& codewords, const ReferenceSize& s
 enum class Chain { kPoints, kPicture, kEveryReader };
 
 // What zxing-cpp makes of the items: an FNC1 behind the first codeword is not in the text, another
-// is byte 29; macro headers are written out with their trailer.
+// is byte 29; macro headers are written out with their trailer. ECI designators are left out of the
+// text, which is told once more with those that something follows at once, "AB\\001024CD".
 struct ReaderText {
   std::string text;
   std::string trailer;
+  std::string withEci;  // and with the trailer
+  bool hasEci = false;
 };
 
 ReaderText TextByZxing(const std::vector<int>& items) {
-  std::string text;
-  std::string trailer;
+  ReaderText read;
+  std::string designator;
+  const auto add = [&read, &designator](const std::string& text) {
+    read.withEci += std::exchange(designator, "");
+    read.text += text;
+    for (const char c : text) read.withEci += c == '\\' ? "\\\\" : std::string(1, c);
+  };
   for (std::size_t i = 0; i < items.size(); ++i) {
     if (items[i] == kReadMacro05 || items[i] == kReadMacro06) {
-      text += items[i] == kReadMacro05 ? "[)>\x1E"
-                                         "05\x1D"
-                                       : "[)>\x1E"
-                                         "06\x1D";
-      trailer = "\x1E\x04";
+      add(std::string("[)>\x1E") + (items[i] == kReadMacro05 ? "05" : "06") + '\x1D');
+      read.trailer = "\x1E\x04";
     } else if (items[i] == kReadFnc1) {
-      if (i > 2) text += '\x1D';  // a pair of digits is one codeword
+      if (i > 2) add("\x1D");  // a pair of digits is one codeword
+    } else if (items[i] >= ReadEci(0)) {
+      char digits[16];
+      std::snprintf(digits, sizeof digits, "\\%06d", items[i] - ReadEci(0));
+      designator = digits;
+      read.hasEci = true;
     } else {
-      text += static_cast<char>(items[i]);
+      add(std::string(1, static_cast<char>(items[i])));
     }
   }
-  return {text, trailer};
+  if (!read.trailer.empty()) read.withEci += designator + read.trailer;
+  return read;
 }
 
 // What libdmtx makes of them: the same but for FNC1, which is byte 29 everywhere.
@@ -202,16 +216,30 @@ bool IsForDmtx(const ReferenceSize& size, const std::vector<int>& codewords) {
                                          latchAndUnlatch + 2) == codewords.end();
 }
 
+// zxing-cpp puts the symbology identifier in front, and the default designator, ISO 8859-1, where
+// none of the symbol's own comes first.
+std::string WithoutDefaults(const std::string& eciText) {
+  const std::string text = eciText.substr(std::string("]d4").size());
+  const std::string byDefault = "\\000003";
+  return text.substr(0, byDefault.size()) == byDefault ? text.substr(byDefault.size()) : text;
+}
+
 void ExpectTextByZxing(const MatrixRequest& request, const FillBufferInfo& fill,
-                       const std::string& text, ReadTally& tally) {
+                       const ReaderText& expected, ReadTally& tally) {
   const auto read =
       Read(Reader::kZxing, MarkStrokes(fill, ParametersOf(request, 3.0)), Format::kDataMatrix);
+  const std::string text = expected.text + expected.trailer;
   if (text.empty()) {  // the byte 128 alone: D-DM-4
     EXPECT_FALSE(read && !read->text.empty()) << Describe(request);
     return tally.Count("nothing_as_expected_zxing");
   }
   ASSERT_TRUE(read) << Describe(request);
   ASSERT_EQ(Escaped(read->text), Escaped(text)) << Describe(request);
+  if (expected.hasEci) {
+    ASSERT_EQ(Escaped(WithoutDefaults(read->eciText)), Escaped(expected.withEci))
+        << Describe(request);
+    tally.Count("with_designators_by_zxing");
+  }
   tally.Count("read_by_zxing");
 }
 
@@ -247,7 +275,7 @@ void ExpectAsPredicted(MatrixRequest request, Chain chain, ReadTally& tally) {
   const int rows = request.asked < 0 ? request.size.rows : request.asked / 256;
   const int columns = request.asked < 0 ? request.size.columns : request.asked % 256;
   const ExpectedMatrixReading expected = ExpectedReadingOfMatrix(
-      Wide(request.text), request.codeFormat, {rows, columns, request.isExpanding});
+      request.text, request.codeFormat, {rows, columns, request.isExpanding});
   request.asked = rows * 256 + columns;
   if (expected.size) request.size = *expected.size;
   MatrixRequest inPoints = request;
@@ -272,7 +300,7 @@ void ExpectAsPredicted(MatrixRequest request, Chain chain, ReadTally& tally) {
   ASSERT_TRUE(fill) << Describe(request);
   const ReaderText text = TextByZxing(plain.items);
   if (!plain.isSound) return ExpectNothingOrTheBeginning(request, *fill, text.text, tally);
-  ExpectTextByZxing(request, *fill, text.text + text.trailer, tally);
+  ExpectTextByZxing(request, *fill, text, tally);
   if (chain != Chain::kEveryReader) return;
   if (!IsForDmtx(request.size, codewords)) return tally.Count("not_for_libdmtx");
   ExpectTextByDmtx(request, *fill, TextByDmtx(plain.items), tally);
@@ -290,12 +318,12 @@ TEST_P(MatrixReadBack, EveryPatternPlainAndInvertedIsRead) {
       // Sanitized, each pattern takes one image.
       if (kSampleShare > 1 && (pattern + GetParam()) % 3 != static_cast<int>(image)) continue;
       // Digits fill the symbol to the last codeword.
-      ExpectAsPredicted({size, texts.Next("0123456789", 2 * full, 2 * full), pattern, image},
+      ExpectAsPredicted({size, Wide(texts.Next("0123456789", 2 * full, 2 * full)), pattern, image},
                         Chain::kEveryReader, tally);
       for (const char* alphabet : kAlphabets) {
         if (size.rows >= 52 && alphabet != kAlphabets[pattern % 6]) continue;
         ExpectAsPredicted(
-            {size, texts.Next(alphabet, 1, std::min<std::size_t>(full, 200)), pattern, image},
+            {size, Wide(texts.Next(alphabet, 1, std::min<std::size_t>(full, 200))), pattern, image},
             Chain::kEveryReader, tally);
       }
       if (HasFatalFailure()) return;
@@ -332,7 +360,7 @@ TEST_P(MatrixReadBackOfClasses, EverySequenceOfCharacters) {
       const std::string characters = CharactersOfClass(static_cast<int>(rest % kTextClassCount));
       text += characters[Below(random, characters.size())];
     }
-    MatrixRequest request{ReferenceSizes()[0], text, 0, Image::kPlain};
+    MatrixRequest request{ReferenceSizes()[0], Wide(text), 0, Image::kPlain};
     request.asked = 0;
     ExpectAsPredicted(request, chain, tally);
     if (HasFatalFailure()) return;
@@ -340,6 +368,27 @@ TEST_P(MatrixReadBackOfClasses, EverySequenceOfCharacters) {
 }
 
 INSTANTIATE_TEST_SUITE_P(UpToSix, MatrixReadBackOfClasses, testing::Range(1, 7));
+
+// One to four designators anywhere, of one codeword to three, between runs of all classes. libdmtx
+// takes designators for text, so it is not asked.
+TEST(MatrixReadBackOfDesignators, TheirNumbersAndPlacesAreRead) {
+  constexpr char16_t kLimits[] = {256, 16382, 16383, 16384, 0xD800, 0xFFFF};
+  std::mt19937 random(241);
+  ReadTally tally;
+  for (int i = 0; i < 4500 / kSampleShare; ++i) {
+    std::u16string text = Wide(RandomText(random, i % kTextClassCount, 1 + Below(random, 40)));
+    for (int designators = 1 + i % 4; designators > 0; --designators) {
+      const auto any = static_cast<char16_t>(256 + Below(random, 0x10000 - 256));
+      text.insert(Below(random, text.size() + 1), 1,
+                  Below(random, 2) == 0 ? any : kLimits[Below(random, std::size(kLimits))]);
+    }
+    MatrixRequest request{ReferenceSizes()[0], text, kStrokePatterns[i % 5], kImages[i % 3]};
+    request.asked = 0;
+    request.codeFormat = i / 5 % 4;
+    ExpectAsPredicted(request, Chain::kPicture, tally);
+    if (HasFatalFailure()) return;
+  }
+}
 
 // The last codewords: texts of one class or of two that leave 0 to 6 codewords, of which a header
 // or FNC1 takes one, for each size asked for and for the smallest square; in small sizes every
@@ -362,7 +411,7 @@ void ExpectEndsRead(const ReferenceSize& size, int first, int second, ReadTally&
       const auto encoded = EncodeByReference(Wide(whole.substr(0, middle)), 0, {0, 0, 1});
       (static_cast<int>(encoded.codewords.size()) + step <= size.data ? fits : fails) = middle;
     }
-    MatrixRequest request{size, whole.substr(0, fits), kStrokePatterns[(first + step) % 5],
+    MatrixRequest request{size, Wide(whole.substr(0, fits)), kStrokePatterns[(first + step) % 5],
                           kImages[(second + step) % 3]};
     const int formats = size.data <= 12 ? 4 : 1;
     for (int format = 0; format < formats; ++format) {

@@ -8,6 +8,8 @@
 #include <map>
 #include <string>
 
+#include "support/TextClasses.h"
+
 namespace barhatch::test {
 
 // The sanitized programs take one text of so many.
@@ -31,16 +33,18 @@ class ReadTally {
   std::map<std::string, long> counts_;
 };
 
-// A text as a C++ literal would have it: bytes outside printable ASCII in hexadecimal.
-inline std::string Escaped(const std::string& text) {
+// A text as a C++ literal would have it: units outside printable ASCII in hexadecimal.
+inline std::string Escaped(const std::u16string& text) {
   std::string escaped;
-  for (const char c : text) {
+  for (const char16_t c : text) {
     char hex[8];
-    std::snprintf(hex, sizeof hex, "\\x%02X", static_cast<unsigned>(static_cast<unsigned char>(c)));
-    escaped += c >= 32 && c < 127 && c != '\\' ? std::string(1, c) : hex;
+    std::snprintf(hex, sizeof hex, c < 256 ? "\\x%02X" : "\\u%04X", static_cast<unsigned>(c));
+    escaped += c >= 32 && c < 127 && c != u'\\' ? std::string(1, static_cast<char>(c)) : hex;
   }
   return '"' + escaped + '"';
 }
+
+inline std::string Escaped(const std::string& bytes) { return Escaped(Wide(bytes)); }
 
 }  // namespace barhatch::test
 

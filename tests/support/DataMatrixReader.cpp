@@ -49,7 +49,10 @@ class Reader {
       const int codeword = Next();
       if (codeword == 129) return Scheme::kEnd;
       if (codeword == 230) return Scheme::kC40;
-      if (codeword == 231) return Scheme::kBase256;
+      if (codeword == 231) {
+        if (Left() == 0) Break();  // its length is missing
+        return Scheme::kBase256;
+      }
       if (codeword == 238) return Scheme::kX12;
       if (codeword == 239) return Scheme::kText;
       if (codeword == 240) return Scheme::kEdifact;
@@ -149,12 +152,9 @@ class Reader {
     const char* const signs = "!\"#$%&'()*+,-./:;<=>?@[\\]^_";
     if (value < 27) return ReportShifted(signs[value]);
     shift_ = 0;
+    if (upper_ != 0 || (value != 27 && value != 30)) return Break();  // no upper FNC1
     if (value == 27) return Report(kReadFnc1);
-    if (value == 30 && upper_ == 0) {
-      upper_ = 128;
-    } else {
-      Break();
-    }
+    upper_ = 128;
   }
 
   void ReadShift3Value(int value, bool isC40) {
