@@ -1,6 +1,5 @@
-"""What scripts/mutate changes: the cells of every table, found by the table's first line and a pattern for one cell,
-           and the
-constants of every algorithm, written down with what they become.
+"""What scripts/mutate changes: the cells of every table, found by the table's first line and a pattern for one cell, and
+the constants of every algorithm, written down with what they become.
 
 A new table is one Table, a new constant one line. A rule that finds nothing is an error, so rules cannot rot unseen.
 """
