@@ -97,15 +97,14 @@ class Statements {
   std::FILE* stream_;
 };
 
-void WriteGrid(const TwoDStringResult* grid, const char* release) {
-  if (grid == nullptr) return;
+void WriteGrid(const TwoDStringResult& grid, const char* release) {
   Statements out;
   out.Write("TwoDStringResult* stringResult;\n");
-  out.Write("stringResult->numrows = %d\n", grid->numrows);
-  out.Write("stringResult->numcols = %d\n", grid->numcols);
+  out.Write("stringResult->numrows = %d\n", grid.numrows);
+  out.Write("stringResult->numcols = %d\n", grid.numcols);
   out.Write(release);
-  out.Write("(%d,", grid->numcols);
-  out.Write("%d);\n", grid->numrows);
+  out.Write("(%d,", grid.numcols);
+  out.Write("%d);\n", grid.numrows);
 }
 
 }  // namespace
@@ -222,24 +221,23 @@ void TraceGenerateDataMatrixBarcode(const DataMatrixBarcodeInfo* info) {
   out.Write("\n\n");
 }
 
-void TraceFreeBarcodeData(const FillBufferInfo* fill) {
-  if (fill == nullptr) return;
+void TraceFreeBarcodeData(const FillBufferInfo& fill) {
   Statements out;
   out.Write("FillBufferInfo* barcodeInfo;\n");
-  out.Write("barcodeInfo->FillingShapeType = %d;\n", fill->FillingShapeType);
-  out.Write("barcodeInfo->BufferLength = %d;\n", fill->BufferLength);
+  out.Write("barcodeInfo->FillingShapeType = %d;\n", fill.FillingShapeType);
+  out.Write("barcodeInfo->BufferLength = %d;\n", fill.BufferLength);
   // The address of the array stands where a double should be; the number carries no meaning.
-  const auto address = reinterpret_cast<std::uintptr_t>(fill->FilledArray);
+  const auto address = reinterpret_cast<std::uintptr_t>(fill.FilledArray);
   out.Write("barcodeInfo->FilledArray = %f;\n",
             DoubleOfLowWord(static_cast<std::uint32_t>(address)));
   out.Write("FreeBarcodeData(barcodeInfo);\n");
 }
 
-void TraceFree2DBarcodeStringResult(const TwoDStringResult* grid) {
+void TraceFree2DBarcodeStringResult(const TwoDStringResult& grid) {
   WriteGrid(grid, "Free2DBarcodeStringResult");
 }
 
-void TraceFreePdf417BarcodeStringResult(const TwoDStringResult* grid) {
+void TraceFreePdf417BarcodeStringResult(const TwoDStringResult& grid) {
   WriteGrid(grid, "FreePdf417BarcodeStringResult");
 }
 

@@ -31,8 +31,8 @@ void CloseApiTrace();
 void ForgetApiTrace();
 void EndApiTrace();
 
-// One function for each statement, in the order of the header. Null records and null arguments of
-// the release functions are not traced; a null text shows as (null).
+// One function for each statement, in the order of the header. Null records are not traced; a
+// null text shows as (null).
 void TraceSetBarcodeType(std::int32_t type);
 void TraceSetDataString(const BarhatchChar* text);
 void TraceSetModuleWidth(double moduleWidth);
@@ -48,9 +48,9 @@ void TraceHatchBarcodeString(const char* moduleString);
 void TraceGenerateVectorizedBarcode();
 void TraceGenerateLinearBarcode(const LinearBarcodeInfo* info);
 void TraceGenerateDataMatrixBarcode(const DataMatrixBarcodeInfo* info);
-void TraceFreeBarcodeData(const FillBufferInfo* fill);
-void TraceFree2DBarcodeStringResult(const TwoDStringResult* grid);
-void TraceFreePdf417BarcodeStringResult(const TwoDStringResult* grid);
+void TraceFreeBarcodeData(const FillBufferInfo& fill);
+void TraceFree2DBarcodeStringResult(const TwoDStringResult& grid);
+void TraceFreePdf417BarcodeStringResult(const TwoDStringResult& grid);
 
 }  // namespace barhatch
 

@@ -25,20 +25,20 @@ extern "C" {
 
 void FreeBarcodeData(FillBufferInfo* fill) {
   if (fill == nullptr) return;
-  barhatch::TraceFreeBarcodeData(fill);
+  barhatch::TraceFreeBarcodeData(*fill);
   delete[] fill->FilledArray;
   delete fill;
 }
 
 void Free2DBarcodeStringResult(TwoDStringResult* grid) {
   if (grid == nullptr) return;
-  barhatch::TraceFree2DBarcodeStringResult(grid);
+  barhatch::TraceFree2DBarcodeStringResult(*grid);
   ReleaseGrid(grid);
 }
 
 void FreePdf417BarcodeStringResult(TwoDStringResult* grid) {
   if (grid == nullptr) return;
-  barhatch::TraceFreePdf417BarcodeStringResult(grid);
+  barhatch::TraceFreePdf417BarcodeStringResult(*grid);
   ReleaseGrid(grid);
 }
 

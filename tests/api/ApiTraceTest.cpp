@@ -162,6 +162,7 @@ TEST_F(ApiTraceTest, TextIsWrittenAsUtf8AtEveryBoundary) {
               {{0xE000, 0}, "\xEE\x80\x80"},
               {{0xFFFF, 0}, "\xEF\xBF\xBF"},
               {{0xD800, 0xDC00, 0}, "\xF0\x90\x80\x80"},
+              {{0xD83D, 0xDE42, 0}, "\xF0\x9F\x99\x82"},
               {{0xDBFF, 0xDFFF, 0}, "\xF4\x8F\xBF\xBF"},
               {{0xD800, 0}, "\xEF\xBF\xBD"},
               {{0xDFFF, 0}, "\xEF\xBF\xBD"},
@@ -203,6 +204,15 @@ TEST(ApiTraceAtLoad, ThereIsNoStreamAndNoExportSetsOne) {
   SetModuleWidth(2.0);
   const OwnedFill fill(GenerateVectorizedBarcode());
   EXPECT_EQ(ApiTrace(), nullptr);
+}
+
+TEST(ApiTraceAtLoad, StreamsOfTheHostAreNotFlushed) {
+  TraceFile file;
+  std::FILE* const host = file.Writer();
+  ASSERT_GE(std::fputs("kept in the buffer", host), 0);
+  SetModuleWidth(2.0);
+  EXPECT_EQ(file.Text(), "");
+  ASSERT_EQ(std::fclose(host), 0);
 }
 
 TEST(EntryPoint, EveryReasonSucceeds) {

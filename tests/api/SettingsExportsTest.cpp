@@ -196,6 +196,14 @@ TEST_F(TextLimit, UpTo3119UnitsAreStoredAsTheyAre) {
   }
 }
 
+TEST_F(TextLimit, EmptyTextEndsAtItsFirstUnitWhateverStandsBehind) {
+  Text16 units(kDataStringCapacity + 1, BarhatchChar{'7'});
+  units[0] = 0;
+  UseCode39("B");
+  SetDataString(units.c_str());
+  EXPECT_EQ(Take(GenerateBarcodeString()), "AbAaBaBaAaAbAaBaBaA");
+}
+
 TEST_F(TextLimit, From3120UnitsOnTextIsRefusedUntilAnAcceptableOneIsSet) {
   for (std::size_t length : {3120u, 3121u, 100000u}) {
     UseCode39("7");
