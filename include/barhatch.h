@@ -9,9 +9,10 @@
  *     x grows to the right, y grows upwards, the origin is the lower-left corner of the symbol.
  *  3. A null result is the only sign of failure: there are no error codes, messages or exceptions. A call that fails has
  *     allocated nothing that the host would have to release.
- *  4. Setters check nothing; a value that makes no sense shows as a null result of the next generating call.
+ *  4. Setters check nothing (but for the length of a text); a value that makes no sense shows in the next generating
+ *     call, as a null result or as a symbol that makes no sense. Check sizes, gap and ratio yourself: finite and > 0.
  *  5. Text is NUL-terminated and made of 16-bit units on every platform (BarhatchChar), at most 3119 of them.
- *     Longer text is refused, never cut.
+ *     Longer text is refused, never cut. (Code 128 has a limit of its own, see GenerateBarcodeString.)
  *  6. A boolean is one byte; every value but 0 means true.
  *  7. A returned object belongs to the host until it is handed back: fill buffers to FreeBarcodeData, module strings to
  *     the runtime's array delete.
@@ -19,13 +20,14 @@
  *
  * FilledArray, by FillingShapeType
  *
- *        0: line segments, in drawing order             2: points (hatching type 6), left to right
+ *        0: line segments, in drawing order             2: points (hatching type 6), in drawing order
  *        +----+----+----+----+----+----+--              +----+----+----+----+--
  *        | xa | ya | xb | yb | xa | ya | ..             | x  | y  | x  | y  | ..
  *        +----+----+----+----+----+----+--              +----+----+----+----+--
  *        |<- first segment ->|<- second ..              |<-first->|<-second->|
  *
- * BufferLength counts the doubles: 4 for each segment, 2 for each point.
+ * BufferLength counts the doubles: 4 for each segment, 2 for each point. Bars are filled from left to right, one by one
+ * (hatching type 0: all together, line by line from the bottom); a matrix is filled row by row from the bottom.
  *
  * The header is C99 and C++17. */
 #ifndef BARHATCH_H
@@ -158,6 +160,8 @@ BARHATCH_API void SetCodeFormat(int32_t format);
 
 /* GenerateBarcodeString: the module string of the current type and text.
  * One letter per element, left to right: 'A' narrow bar, 'B' wide bar, 'a' narrow space, 'b' wide space; NUL-terminated.
+ * Code 128 drops, without a sign of it, the text beyond its limit of 79 values (characters, pairs of digits, switches).
+ * The documentation lists this and all other deviations from the published symbologies.
  * Reads: type, DataString, QuietZone   Writes: -
  * Returns: a string that the host releases with the runtime's array delete (delete[] in C++)
  * Fails: null for a type outside 0..22, text that the symbology cannot encode or that was refused, no memory */
@@ -168,8 +172,9 @@ BARHATCH_API char* GenerateBarcodeString(void);
  * The whole string, quiet zones included, is scaled to the width setting.
  * Reads: width, height, PrintRatio, InvertImage, HatchingType, LineGap   Writes: FillHeight, FillWidth
  * Returns: a fill buffer, released by FreeBarcodeData
- * Fails: null for a null or empty string, a pattern that fills nothing, a line gap that is zero, negative, infinite, no
- *        number or so small that the strokes cannot be counted in 32 bits, no memory */
+ * Fails: null for a null string, elements that are none or whose widths add up to 0, no element of the shade that is
+ *        filled, a pattern that fills nothing, for types 0 to 5 a line gap that is zero, negative, infinite, no number or
+ *        so small that the strokes cannot be counted in 32 bits, sizes between which no stroke lies, no memory */
 BARHATCH_API FillBufferInfo* HatchBarcodeString(const char* moduleString);
 
 /* GenerateVectorizedBarcode: GenerateBarcodeString and HatchBarcodeString in one call, for the current settings.
