@@ -15,6 +15,23 @@ static void Check(int holds, const char* what) {
 
 static const BarhatchChar kText[] = {'A', '1', 0};
 
+/* What the loader leaves, before any other call: every setting is zero. */
+static void CheckBeforeInit(void) {
+  FillBufferInfo* fill;
+  Check(GenerateBarcodeString() == NULL, "Codabar, type 0, has no symbol for the empty text");
+  Check(GenerateVectorizedBarcode() == NULL, "nor a fill");
+  Check(HatchBarcodeString("AaA") == NULL, "a line gap of zero fills nothing");
+  SetHatchPattern(0.0, 6);
+  fill = HatchBarcodeString("AaA");
+  Check(fill != NULL && fill->BufferLength == 4, "points need no gap");
+  if (fill != NULL) {
+    Check(fill->FilledArray[2] == 0.0 && fill->FilledArray[3] == 0.0, "width and height are zero");
+    Check(fill->FillHeight == 0.0 && fill->FillWidth == 0.0, "and so are the extents");
+  }
+  FreeBarcodeData(fill);
+  Check(HatchBarcodeString("Bb") == NULL, "with a print ratio of zero wide elements have no width");
+}
+
 static void CheckSetters(void) {
   FillBufferInfo* fill;
   InitBarcode();
@@ -74,6 +91,7 @@ static void CheckOwnString(void) {
 }
 
 int main(void) {
+  CheckBeforeInit();
   CheckSetters();
   CheckRecord();
   CheckLayoutRecord();
