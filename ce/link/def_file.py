@@ -3,7 +3,7 @@ from dataclasses import dataclass, field
 
 
 class DefFileError(ValueError):
-    """A line that is none of the forms below."""
+    """A line that is none of the forms below, or a name that is exported twice."""
 
 
 @dataclass(frozen=True)
@@ -27,8 +27,13 @@ class DefFile:
     entries: list = field(default_factory=list)
 
     def exports(self):
-        """Entries of the form "name" or "name=symbol"."""
-        return [self._export(words) for words in self.entries]
+        """Entries of the form "name" or "name=symbol", no name twice."""
+        exports = [self._export(words) for words in self.entries]
+        names = [export.name for export in exports]
+        for name in names:
+            if names.count(name) > 1:
+                raise DefFileError(f"exported twice: {name}")
+        return exports
 
     def imports(self):
         """Entries of the form "name" or "symbol == name"."""

@@ -29,6 +29,15 @@ class DefFile(unittest.TestCase):
         self.assertRaises(DefFileError, wrong.exports)
         self.assertRaises(DefFileError, wrong.imports)
 
+    def test_a_name_is_exported_once(self):
+        for text in ("LIBRARY a.dll\nEXPORTS\n F\n G\n F\n", "LIBRARY a.dll\nEXPORTS\n F\n F=Inner\n"):
+            with self.subTest(text), self.assertRaisesRegex(DefFileError, "exported twice: F"):
+                def_file.parse(text).exports()
+
+    def test_two_names_may_stand_for_one_symbol(self):
+        definition = def_file.parse("LIBRARY a.dll\nEXPORTS\n F=Inner\n G=Inner\n")
+        self.assertEqual([export.name for export in definition.exports()], ["F", "G"])
+
     def test_the_import_library_description_has_the_public_names_in_order(self):
         definition = def_file.parse("LIBRARY a.dll\nEXPORTS\n G=Inner\n F\n")
         self.assertEqual(def_file.import_library_description(definition), "LIBRARY a.dll\nEXPORTS\n F\n G\n")
