@@ -32,7 +32,9 @@ namespace barhatch {
 // A name of its own keeps these types apart from those inside of the library.
 inline namespace host {
 
-// The linear symbologies. The text that each takes is told in full in docs/symbologies.md.
+// The linear symbologies. The text that each takes is told in full in docs/symbologies.md, and what
+// is not written by the published form in docs/deviations.md: Code 39 accepts the letters from E to
+// Z, but no reader gives them back.
 enum class Type : std::int32_t {
   kCodabar = 0,           // digits and - $ : / . +, letters at both ends
   kCode39 = 1,            // digits, capital letters, - . $ / + % and space
@@ -56,7 +58,7 @@ enum class Type : std::int32_t {
   kUpcEAddOn2 = 19,       // 7 and 2 digits
   kUpcEAddOn5 = 20,       // 7 and 5 digits
   kInterleaved2of5 = 21,  // digits
-  kCode93FullAscii = 22   // every byte
+  kCode93FullAscii = 22   // ASCII; bytes above 127 are accepted and spoil the symbol
 };
 
 // How the bars are filled.
