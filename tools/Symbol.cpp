@@ -3,6 +3,7 @@
 #include <fmt/core.h>
 
 #include <cmath>
+#include <utility>
 
 #include "Messages.h"
 #include "Outputs.h"
@@ -49,8 +50,23 @@ Verdict VerifyAt(const Symbol& symbol, const Options& options, double pixelsPerU
   std::string reason;
   const Look look = LookOf(options, symbol.drawing.width);
   const std::optional<Picture> picture = PictureOf(symbol.drawing, look, resolved, reason);
-  if (!picture) return {false, reason};
+  if (!picture) return {false, false, reason};
   return Judge(TextOf(symbol.request), ReadBack(*picture));
+}
+
+// What keeps a reader from seeing the symbol in this picture, where the options tell it.
+std::string Advice(const Symbol& symbol, const Options& options) {
+  if (symbol.request.invert && !(options.darkPart && symbol.request.quietZone)) {
+    return "; inverted marks are read with --dark-part and --quiet-zone";
+  }
+  if (symbol.drawing.kind == MarkKind::kPoints && symbol.request.kind == Kind::kLinear) {
+    return "; points are no bars";
+  }
+  if (symbol.drawing.kind == MarkKind::kPoints) {
+    return fmt::format("; points are read with a --beam of about a module, {:.6g}",
+                       symbol.moduleSize);
+  }
+  return "";
 }
 
 std::string Fact(const char* name, const std::string& value) {
@@ -120,14 +136,16 @@ std::string ExplanationText(const Request& request) {
 }
 
 Verdict Verify(const Symbol& symbol, const Options& options) {
-  if (!CanReadBack()) return {false, "built without a reader, cannot verify"};
-  std::optional<Verdict> first;
+  if (!CanReadBack()) return {false, false, "built without a reader, cannot verify"};
+  std::optional<Verdict> best;
   for (const double resolution : ResolutionsToRead(symbol, options)) {
     Verdict verdict = VerifyAt(symbol, options, resolution);
     if (verdict.isRead) return verdict;
-    if (!first) first = verdict;
+    // What a reader says tells more than that it says nothing.
+    if (!best || (best->isBlank && !verdict.isBlank)) best = std::move(verdict);
   }
-  return *first;
+  if (best->isBlank) best->sentence += Advice(symbol, options);
+  return *best;
 }
 
 }  // namespace preview

@@ -122,14 +122,17 @@ std::string ExpectedReading(const BarcodeText& text) {
 
 Verdict Judge(const BarcodeText& text, const std::optional<Reading>& reading) {
   if (!reading && !IsKnownToReaders(text)) {
-    return {false, "cannot verify, the reader does not know this symbology"};
+    return {false, false, "cannot verify, the reader does not know this symbology"};
   }
-  if (!reading) return {false, "the reader finds no symbol in the picture" + Causes(text)};
+  if (!reading) {
+    return {false, true, "the reader finds no symbol in the picture" + Causes(text)};
+  }
   const std::string found =
       fmt::format("{} reads {} {}", reading->reader, reading->format, Quoted(reading->text, 4000));
-  if (IsAsExpected(text, *reading)) return {true, found};
-  return {false, fmt::format("{} instead of {}{}", found,
-                             Quoted(Utf8Of(ExpectedReading(text)), 4000), Causes(text))};
+  if (IsAsExpected(text, *reading)) return {true, false, found};
+  return {false, false,
+          fmt::format("{} instead of {}{}", found, Quoted(Utf8Of(ExpectedReading(text)), 4000),
+                      Causes(text))};
 }
 
 }  // namespace preview

@@ -16,7 +16,8 @@ namespace preview {
 std::string ExpectedReading(const BarcodeText& text);
 
 struct Verdict {
-  bool isRead = false;  // as the text that was marked
+  bool isRead = false;   // as the text that was marked
+  bool isBlank = false;  // the reader knows the symbology and has found no symbol
   std::string sentence;
 };
 
