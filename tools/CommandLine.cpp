@@ -13,6 +13,7 @@ namespace {
 
 constexpr const char* kDataMatrixName = "datamatrix";
 constexpr int kPoints = 6;
+constexpr double kLargestNumber = 1e9;
 
 constexpr const char* kFooter =
     "Lengths are in millimetres, texts in UTF-8. A text that begins with - goes behind --.\n"
@@ -25,8 +26,13 @@ constexpr const char* kFooter =
     "arguments; 3 a symbol was not read back as its text.\n"
     "barhatch --list shows the types.";
 
+// Names are taken in capitals as well.
+bool IsDataMatrixName(const std::string& text) {
+  return CLI::detail::to_lower(text) == kDataMatrixName;
+}
+
 void SetType(const std::string& text, Request& request) {
-  if (text == kDataMatrixName) {
+  if (IsDataMatrixName(text)) {
     request.kind = Kind::kDataMatrix;
   } else {
     request.type = *LinearTypeFrom(text);
@@ -34,7 +40,7 @@ void SetType(const std::string& text, Request& request) {
 }
 
 std::string CheckType(const std::string& text) {
-  if (text == kDataMatrixName || LinearTypeFrom(text)) return "";
+  if (IsDataMatrixName(text) || LinearTypeFrom(text)) return "";
   return "no barcode type \"" + text + "\" (see --list)";
 }
 
@@ -59,15 +65,31 @@ std::string CheckOutput(const std::string& path) {
   for (const char* ending : {".svg", ".png", ".csv", ".dxf", ".gcode", ".nc"}) {
     if (HasEnding(path, ending)) return "";
   }
-  return "output \"" + path + "\" is none of .svg .png .csv .dxf .gcode .nc";
+  return "\"" + path + "\" ends in none of .svg .png .csv .dxf .gcode .nc";
 }
 
 std::string CheckAboveZero(const std::string& text) {
   double value = 0.0;
-  if (!CLI::detail::lexical_cast(text, value) || !(value > 0.0) || value > 1e9) {
-    return "\"" + text + "\" is not a number above zero";
+  if (!CLI::detail::lexical_cast(text, value) || !(value > 0.0) || value > kLargestNumber) {
+    return "\"" + text + "\" is not a number above zero, up to 1e9";
   }
   return "";
+}
+
+// A check of a number from zero on; the limit is a number and its text.
+auto FromZeroTo(double most, const char* limit) {
+  return [most, limit](const std::string& text) -> std::string {
+    double value = 0.0;
+    if (CLI::detail::lexical_cast(text, value) && value >= 0.0 && value <= most) return "";
+    return "\"" + text + "\" is not a number from 0 to " + limit;
+  };
+}
+
+std::string CheckPattern(const std::string& text) {
+  for (const char* pattern : {"0", "1", "2", "3", "5", "6"}) {
+    if (text == pattern) return "";
+  }
+  return "\"" + text + "\" is no pattern; there are 0, 1, 2, 3, 5 and 6";
 }
 
 CLI::Option* AddLength(CLI::App& app, const char* name, double& value, const char* description) {
@@ -106,7 +128,7 @@ void DescribeMarking(CLI::App& app, Options& options) {
   app.add_option("-p,--pattern", request.pattern,
                  "0 scan lines, 1 vertical, 2 horizontal alternating, 3 vertical alternating, 5 "
                  "spiral, 6 points")
-      ->check(CLI::Range(0, 6))
+      ->check(CheckPattern)
       ->capture_default_str();
   AddLength(app, "-g,--gap", request.gap, "pitch of the strokes")->capture_default_str();
   app.add_flag("-i,--invert", request.invert, "fill the light elements instead of the dark ones");
@@ -116,7 +138,7 @@ void DescribeMarking(CLI::App& app, Options& options) {
       ->capture_default_str();
   AddLength(app, "--dwell", options.speeds.dwell, "time at each point, ms")->capture_default_str();
   app.add_option("--power", options.laser.power, "S word of G-code, in the controller's measure")
-      ->check(CLI::Range(0.0, 1e6))
+      ->check(FromZeroTo(1e6, "1e6"))
       ->capture_default_str();
   app.add_option_function<std::string>(
          "--laser",
@@ -137,7 +159,7 @@ void DescribeOutput(CLI::App& app, Options& options) {
   AddLength(app, "--beam", options.beam, "width of a stroke in pictures (default: the gap)");
   app.add_option("--margin", options.margin,
                  "margin of pictures (default: a tenth of the symbol's width)")
-      ->check(CLI::Range(0.0, 1e9));
+      ->check(FromZeroTo(kLargestNumber, "1e9"));
   AddLength(app, "--pixels-per-unit", options.pixelsPerUnit,
             "resolution of a PNG (default: 1600 pixels across)");
 }
@@ -219,9 +241,19 @@ std::string WhyBatchIsWrong(const CLI::App& app, const Options& options) {
   return "";
 }
 
+// Empty where nothing is asked for beside the list or the table.
+std::string WhyListIsWrong(const CLI::App& app, const std::string& asked) {
+  for (const CLI::Option* option : app.get_options()) {
+    const std::string name = option->get_name();
+    if (option->count() > 0 && name != asked) return asked + " stands alone, without " + name;
+  }
+  return "";
+}
+
 // Empty where everything fits together.
 std::string WhyItIsWrong(const CLI::App& app, const Options& options) {
-  if (options.list || !options.table.empty()) return "";
+  if (options.list) return WhyListIsWrong(app, "--list");
+  if (!options.table.empty()) return WhyListIsWrong(app, "--table");
   for (const Applicability& row : kApplicabilities) {
     if (app.count(row.option) > 0 && !row.applies(options)) {
       return std::string(row.option) + " is for " + row.where;
@@ -233,6 +265,22 @@ std::string WhyItIsWrong(const CLI::App& app, const Options& options) {
   }
   if (HasBatch(options)) return WhyBatchIsWrong(app, options);
   return app.count("text") == 0 ? "a text is required (or --batch, --list, --help)" : "";
+}
+
+// The arguments that are no options and no text.
+std::string WhyExtrasAreWrong(const CLI::App& app) {
+  const std::string first = app.remaining().front();
+  if (first.size() > 1 && first[0] == '-') {
+    return "there is no option " + Quoted(first) + "; a text that begins with - goes behind --";
+  }
+  return "one text only, without " + Quoted(first) + "; a text with spaces goes in quotes";
+}
+
+// "--gap: 1 required FLOAT missing" and "--gap: At Most 1 required but received 2".
+std::string WhyCountIsWrong(const std::string& told) {
+  const std::string option = told.substr(0, told.find(':'));
+  const bool isMissing = told.find("missing") != std::string::npos;
+  return option + (isMissing ? " needs a value" : " is given more than once");
 }
 
 }  // namespace
@@ -254,6 +302,12 @@ std::optional<int> ParseCommandLine(int argc, const char* const* argv, Options& 
     return app.exit(help);
   } catch (const CLI::CallForVersion& version) {
     return app.exit(version);
+  } catch (const CLI::ExtrasError&) {
+    PrintError(WhyExtrasAreWrong(app));
+    return kBadArguments;
+  } catch (const CLI::ArgumentMismatch& error) {
+    PrintError(WhyCountIsWrong(error.what()));
+    return kBadArguments;
   } catch (const CLI::ParseError& error) {
     PrintError(error.what());
     return kBadArguments;
