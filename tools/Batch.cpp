@@ -3,6 +3,7 @@
 #include <fmt/core.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -46,8 +47,8 @@ class BatchRun {
     }
     progress_.Clear();
     if (options_.sheet) WriteSheet();
-    TellUnlessQuiet(fmt::format("{} texts: {} marked, {} refused\n", lines.size(), marked_,
-                                lines.size() - marked_));
+    TellUnlessQuiet(fmt::format("{} text{}: {} marked, {} refused\n", lines.size(),
+                                lines.size() == 1 ? "" : "s", marked_, lines.size() - marked_));
     return code_;
   }
 
@@ -61,7 +62,7 @@ class BatchRun {
 
   void Tell(const std::string& text) {
     progress_.Clear();
-    fmt::print("{}", text);
+    Print(text);
   }
 
   void TellUnlessQuiet(const std::string& text) {
@@ -152,10 +153,11 @@ int RunBatch(const Options& options) {
   if (options.batch == "-") {
     lines = ReadBatch(std::cin);
   } else {
+    errno = 0;
     std::ifstream file(options.batch, std::ios::binary);
     if (file) lines = ReadBatch(file);
     if (!file.eof()) {
-      PrintError("cannot read " + options.batch);
+      PrintError(SystemFailure("cannot read " + options.batch));
       return kRefused;
     }
   }

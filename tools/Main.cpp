@@ -1,8 +1,8 @@
 // The preview host: asks the library for a barcode as the host on a device would, and shows what
 // the head would mark.
-#include <fmt/core.h>
-
+#include <cstdio>
 #include <exception>
+#include <iostream>
 #include <optional>
 #include <string>
 
@@ -18,16 +18,16 @@ namespace {
 using namespace preview;
 
 int PrintTables(const Options& options) {
-  if (options.list) fmt::print("{}", TypeList());
-  if (options.table == "types") fmt::print("{}", TypeTable());
-  if (options.table == "departures") fmt::print("{}", DepartureTable());
+  if (options.list) Print(TypeList());
+  if (options.table == "types") Print(TypeTable());
+  if (options.table == "departures") Print(DepartureTable());
   return kDone;
 }
 
 int VerifyAndTell(const Symbol& symbol, const Options& options) {
   const Verdict verdict = Verify(symbol, options);
   if (verdict.isRead) {
-    fmt::print("{}\n", verdict.sentence);
+    Print(verdict.sentence + '\n');
     return kDone;
   }
   PrintError(verdict.sentence);
@@ -35,7 +35,7 @@ int VerifyAndTell(const Symbol& symbol, const Options& options) {
 }
 
 int RunOne(const Options& options) {
-  if (options.explain) fmt::print("{}", ExplanationText(options.request));
+  if (options.explain) Print(ExplanationText(options.request));
   std::string reason;
   const std::optional<Symbol> symbol = MakeSymbol(options.request, reason);
   if (!symbol) {
@@ -50,7 +50,7 @@ int RunOne(const Options& options) {
     return kRefused;
   }
   if (!options.quiet) {
-    fmt::print("{}\n{}", Headline(*symbol, options.speeds), Facts(*symbol, options.speeds));
+    Print(Headline(*symbol, options.speeds) + '\n' + Facts(*symbol, options.speeds));
   }
   return options.verify ? VerifyAndTell(*symbol, options) : kDone;
 }
@@ -62,11 +62,20 @@ int ParseAndRun(int argc, char** argv) {
   return options.batch.empty() ? RunOne(options) : RunBatch(options);
 }
 
+// What could not be printed, as on a full disk, is no answer.
+int CodeOfPrinted(int code) {
+  std::cout.flush();
+  const bool isPrinted = std::cout.good() && std::fflush(stdout) == 0 && std::ferror(stdout) == 0;
+  if (isPrinted) return code;
+  PrintError("cannot write to standard output");
+  return code == kDone ? kRefused : code;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
   try {
-    return ParseAndRun(argc, argv);
+    return CodeOfPrinted(ParseAndRun(argc, argv));
   } catch (const std::exception& error) {
     PrintError(error.what());
     return kRefused;

@@ -2,7 +2,9 @@
 
 #include <fmt/core.h>
 
+#include <cerrno>
 #include <cstdio>
+#include <system_error>
 
 namespace preview {
 
@@ -12,7 +14,17 @@ bool BeginsCharacter(char c) { return (c & 0xC0) != 0x80; }
 
 }  // namespace
 
-void PrintError(const std::string& text) { fmt::print(stderr, "barhatch: {}\n", text); }
+// By fputs, as fmt::print throws where nothing can be written.
+void Print(const std::string& text) { std::fputs(text.c_str(), stdout); }
+
+void PrintError(const std::string& text) {
+  std::fputs(("barhatch: " + text + '\n').c_str(), stderr);
+}
+
+std::string SystemFailure(const std::string& whatFailed) {
+  if (errno == 0) return whatFailed;
+  return whatFailed + ": " + std::generic_category().message(errno);
+}
 
 std::string Quoted(const std::string& text, std::size_t most) {
   std::string quoted = "\"";

@@ -3,11 +3,13 @@
 #include <fmt/core.h>
 
 #include <algorithm>
+#include <cerrno>
 #include <cmath>
 #include <fstream>
 
 #include "CsvWriter.h"
 #include "DxfWriter.h"
+#include "Messages.h"
 #include "PngWriter.h"
 #include "SvgWriter.h"
 
@@ -66,13 +68,15 @@ std::optional<Picture> PictureOf(const Drawing& drawing, const Look& look, const
 
 std::string WriteOutput(const std::string& path, const Drawing& drawing, const Look& look,
                         const Options& options) {
+  errno = 0;
   if (!HasEnding(path, ".png")) {
-    return WriteText(path, TextOf(path, drawing, look, options)) ? "" : "cannot write " + path;
+    const bool isWritten = WriteText(path, TextOf(path, drawing, look, options));
+    return isWritten ? "" : SystemFailure("cannot write " + path);
   }
   std::string reason;
   const std::optional<Picture> picture = PictureOf(drawing, look, options, reason);
   if (!picture) return reason;
-  return WritePng(path, *picture) ? "" : "cannot write " + path;
+  return WritePng(path, *picture) ? "" : SystemFailure("cannot write " + path);
 }
 
 }  // namespace preview
