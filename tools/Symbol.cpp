@@ -69,6 +69,15 @@ std::string Advice(const Symbol& symbol, const Options& options) {
   return "";
 }
 
+// Strokes a gap apart may miss an element that is narrower. Horizontal strokes of a linear symbol
+// go through all bars.
+bool MayLoseElements(const Symbol& symbol) {
+  const bool isPoints = symbol.drawing.kind == MarkKind::kPoints;
+  const bool isHorizontal = symbol.request.pattern == 0 || symbol.request.pattern == 2;
+  if (isPoints || (symbol.request.kind == Kind::kLinear && isHorizontal)) return false;
+  return symbol.request.gap > symbol.moduleSize;
+}
+
 std::string Fact(const char* name, const std::string& value) {
   return fmt::format("  {:<14}{}\n", name, value);
 }
@@ -109,6 +118,9 @@ std::string Facts(const Symbol& symbol, const Speeds& speeds) {
   facts += Fact("module", fmt::format("{:.6g} mm (X dimension)", symbol.moduleSize));
   facts += Report(StatisticsOf(symbol.drawing, speeds), speeds);
   facts += Fact("buffer", fmt::format("{} bytes", symbol.bufferBytes));
+  if (MayLoseElements(symbol)) {
+    facts += Fact("note", "the gap is wider than a module: elements may get no stroke");
+  }
   if (!symbol.explanation.departures.empty()) {
     facts += Fact("departures", Ids(symbol.explanation.departures) + " (--explain tells)");
   }
