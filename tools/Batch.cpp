@@ -6,6 +6,7 @@
 #include <cerrno>
 #include <fstream>
 #include <iostream>
+#include <limits>
 #include <map>
 
 #include "Messages.h"
@@ -83,6 +84,7 @@ class BatchRun {
     if (options_.verify) VerifyLine(line, *symbol);
     if (options_.sheet) {
       widest_ = std::max(widest_, symbol->drawing.width);
+      smallestModule_ = std::min(smallestModule_, symbol->moduleSize);
       drawings_.push_back(std::move(symbol->drawing));
     } else {
       WriteLine(line, *symbol);
@@ -98,11 +100,11 @@ class BatchRun {
   void WriteLine(const BatchLine& line, const Symbol& symbol) {
     for (const std::string& pattern : options_.outputs) {
       const std::string path = PathOf(pattern, line);
+      const Look look = LookOf(options_, symbol.drawing.width, symbol.moduleSize);
       const auto [other, isNew] = written_.emplace(path, line.number);
       const std::string reason =
-          isNew
-              ? WriteOutput(path, symbol.drawing, LookOf(options_, symbol.drawing.width), options_)
-              : fmt::format("{} is the file of line {} already", path, other->second);
+          isNew ? WriteOutput(path, symbol.drawing, look, options_)
+                : fmt::format("{} is the file of line {} already", path, other->second);
       if (!reason.empty()) Fail(line, kRefused, reason);
     }
   }
@@ -111,7 +113,8 @@ class BatchRun {
     if (drawings_.empty()) return PrintError("no symbol for the sheet");
     const Drawing sheet = SheetOf(drawings_, options_.columns);
     for (const std::string& path : options_.outputs) {
-      const std::string reason = WriteOutput(path, sheet, LookOf(options_, widest_), options_);
+      const Look look = LookOf(options_, widest_, smallestModule_);
+      const std::string reason = WriteOutput(path, sheet, look, options_);
       if (reason.empty()) continue;
       PrintError(reason);
       code_ = kRefused;
@@ -124,6 +127,7 @@ class BatchRun {
   std::size_t marked_ = 0;
   int code_ = kDone;
   double widest_ = 0.0;
+  double smallestModule_ = std::numeric_limits<double>::infinity();
   std::vector<Drawing> drawings_;
   std::map<std::string, std::size_t> written_;  // the line of each file
 };

@@ -156,7 +156,8 @@ void DescribeOutput(CLI::App& app, Options& options) {
   app.add_flag("--animate", options.animate, "the SVG draws the strokes in marking order");
   app.add_flag("--dark-part", options.darkPart,
                "light marks on a dark part instead of dark marks on a light one");
-  AddLength(app, "--beam", options.beam, "width of a stroke in pictures (default: the gap)");
+  AddLength(app, "--beam", options.beam,
+            "width of a stroke or dot in pictures (default: the gap, for dots a module)");
   app.add_option("--margin", options.margin,
                  "margin of pictures (default: a tenth of the symbol's width)")
       ->check(FromZeroTo(kLargestNumber, "1e9"));

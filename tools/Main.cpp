@@ -42,7 +42,7 @@ int RunOne(const Options& options) {
     if (!options.explain) PrintError(reason);  // the explanation has said it
     return kRefused;
   }
-  const Look look = LookOf(options, symbol->drawing.width);
+  const Look look = LookOf(options, symbol->drawing.width, symbol->moduleSize);
   for (const std::string& path : options.outputs) {
     reason = WriteOutput(path, symbol->drawing, look, options);
     if (reason.empty()) continue;

@@ -18,6 +18,7 @@ namespace preview {
 namespace {
 
 constexpr int kSpiral = 5;
+constexpr int kPoints = 6;
 constexpr double kLargestPicture = 100e6;  // pixels
 constexpr double kPixelsAcross = 1600.0;
 
@@ -47,9 +48,11 @@ double DefaultResolution(double across, const Options& options) {
 
 }  // namespace
 
-Look LookOf(const Options& options, double symbolWidth) {
+Look LookOf(const Options& options, double symbolWidth, double moduleSize) {
+  // Points have no gap: dots that touch are the least that readers of pictures see as modules.
+  const double usualBeam = options.request.pattern == kPoints ? moduleSize : options.request.gap;
   return {options.margin >= 0.0 ? options.margin : symbolWidth / 10,
-          options.beam > 0.0 ? options.beam : options.request.gap,
+          options.beam > 0.0 ? options.beam : usualBeam,
           options.darkPart ? Part::kDark : Part::kLight,
           options.request.pattern == kSpiral ? StrokeEnds::kProjecting : StrokeEnds::kFlush};
 }

@@ -11,8 +11,8 @@
 
 namespace preview {
 
-// How pictures show a drawing whose symbols are so wide.
-Look LookOf(const Options& options, double symbolWidth);
+// How pictures show a drawing whose symbols are so wide and have modules of that size.
+Look LookOf(const Options& options, double symbolWidth, double moduleSize);
 
 // Nothing and a reason where the picture would be too large.
 std::optional<Picture> PictureOf(const Drawing& drawing, const Look& look, const Options& options,

@@ -48,7 +48,7 @@ Verdict VerifyAt(const Symbol& symbol, const Options& options, double pixelsPerU
   Options resolved = options;
   resolved.pixelsPerUnit = pixelsPerUnit;
   std::string reason;
-  const Look look = LookOf(options, symbol.drawing.width);
+  const Look look = LookOf(options, symbol.drawing.width, symbol.moduleSize);
   const std::optional<Picture> picture = PictureOf(symbol.drawing, look, resolved, reason);
   if (!picture) return {false, false, reason};
   return Judge(TextOf(symbol.request), ReadBack(*picture));
