@@ -130,7 +130,8 @@ struct Point {
 };
 
 // Segments or points in marking order, made from the coordinates as they are asked for. Valid as
-// long as its fill.
+// long as its fill: keep the fill in a variable, as a loop over Generate(barcode)->Segments() reads
+// what is released already.
 template <typename Stroke>
 class Strokes {
  public:
