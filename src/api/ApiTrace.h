@@ -1,6 +1,7 @@
-// The call trace: every export writes itself as a source-code statement to a stream, before its own
-// work, so that a sequence of calls can be read back and replayed by hand. Without a stream, which
-// is how the library is loaded, nothing is written and nothing changes; no export sets a stream.
+// The call trace: every export but InitBarcode and TestStruct writes itself as a source-code
+// statement to a stream, before its own work, so that a sequence of calls can be read back and
+// replayed by hand. Without a stream, which is how the library is loaded, nothing is written and
+// nothing changes; no export sets a stream.
 //
 // The statement texts are fixed: people and tools that read traces know them letter by letter,
 // oddities included. SetDataString gives 16-bit text to an 8-bit conversion, FreeBarcodeData an
