@@ -30,6 +30,13 @@ std::string Shortened(const std::string& utf8, std::size_t most) {
   return shortened + "\u2026";
 }
 
+// Where the marks begin: behind the quiet zone, where there is one.
+double LeftOf(const Drawing& drawing) {
+  double left = drawing.width;
+  for (const Stroke& mark : drawing.marks) left = std::min({left, mark.x0, mark.x1});
+  return drawing.marks.empty() ? 0.0 : std::max(left, 0.0);
+}
+
 void Place(const Drawing& part, double x, double y, Drawing& sheet) {
   for (const Stroke& mark : part.marks) {
     sheet.marks.push_back({mark.x0 + x, mark.y0 + y, mark.x1 + x, mark.y1 + y});
@@ -69,14 +76,16 @@ Drawing SheetOf(const std::vector<Drawing>& drawings, std::size_t columns) {
   sheet.kind = drawings.front().kind;
   sheet.width = static_cast<double>(used) * (width + spacing) - spacing;
   sheet.height = static_cast<double>(rows) * rowHeight - spacing;
-  const auto most = static_cast<std::size_t>(width / (size * kCharacterWidth));
   for (std::size_t i = 0; i < drawings.size(); ++i) {
     const std::size_t row = i / columns;
     const double x = static_cast<double>(i % columns) * (width + spacing);
     const double top = sheet.height - static_cast<double>(row) * rowHeight;
     const double y = top - drawings[i].height;
     Place(drawings[i], x, y, sheet);
-    sheet.captions.push_back({x, y - 0.8 * spacing, size, Shortened(drawings[i].title, most)});
+    const double indent = LeftOf(drawings[i]);
+    const auto most = static_cast<std::size_t>((width - indent) / (size * kCharacterWidth));
+    sheet.captions.push_back(
+        {x + indent, y - 0.8 * spacing, size, Shortened(drawings[i].title, most)});
   }
   return sheet;
 }

@@ -66,6 +66,19 @@ TEST(Sheet, SymbolsStandInRowsFromTheTopAndDoNotTouch) {
   EXPECT_GT(sheet.captions[2].y, 0.0);
 }
 
+TEST(Sheet, CaptionsBeginWhereTheMarksBegin) {
+  Drawing quiet;
+  quiet.width = quiet.height = 10.0;
+  quiet.title = std::string(100, 'x');
+  quiet.marks = {{8, 0, 2, 10}, {3, 0, 8, 10}};  // the first stroke goes to the left
+  const Drawing sheet = SheetOf({quiet, quiet}, 2);
+  EXPECT_DOUBLE_EQ(sheet.captions[0].x, 2.0);
+  EXPECT_DOUBLE_EQ(sheet.captions[1].x, 11.5 + 2.0);
+  quiet.marks = {{0, 0, 8, 10}};
+  EXPECT_LT(sheet.captions[0].text.size(), SheetOf({quiet}, 2).captions[0].text.size())
+      << "what the quiet zone takes is not there for the text";
+}
+
 TEST(Sheet, LongCaptionsAreCutToTheWidth) {
   Drawing drawing;
   drawing.width = drawing.height = 10.0;
