@@ -29,12 +29,18 @@
  * BufferLength counts the doubles: 4 for each segment, 2 for each point. Bars are filled from left to right, one by one
  * (hatching type 0: all together, line by line from the bottom); a matrix is filled row by row from the bottom.
  *
- * The header is C99 and C++17. */
+ * The header is C99 and C++17, and also C90 and C++98 for the compilers of Windows CE. */
 #ifndef BARHATCH_H
 #define BARHATCH_H
 
 #include <stddef.h>
+#if defined(_MSC_VER) && _MSC_VER < 1600 /* these have no <stdint.h> */
+typedef __int32 int32_t;
+typedef unsigned __int8 uint8_t;
+typedef unsigned __int16 uint16_t;
+#else
 #include <stdint.h>
+#endif
 
 /* The version of this header, major.minor.patch. */
 #define BARHATCH_VERSION "0.1.0"
@@ -46,10 +52,10 @@
 #endif
 
 /* One 16-bit unit of text: wchar_t where the platform's wide characters have 16 bits (L"text"), else char16_t in C++
- * (u"text") and uint16_t in C. */
-#if defined(WCHAR_MAX) && WCHAR_MAX <= 0xFFFF
+ * (u"text") and uint16_t in C and C++98. */
+#if defined(_WIN32) || (defined(WCHAR_MAX) && WCHAR_MAX <= 0xFFFF)
 typedef wchar_t BarhatchChar;
-#elif defined(__cplusplus)
+#elif defined(__cplusplus) && __cplusplus >= 201103L
 typedef char16_t BarhatchChar;
 #else
 typedef uint16_t BarhatchChar;
@@ -220,7 +226,11 @@ BARHATCH_API void FreePdf417BarcodeStringResult(TwoDStringResult* grid);
 
 /* Size of a Data Matrix, rows x 256 + columns. Every 32-bit value may be asked for; see the documentation for what
  * becomes of sizes that do not exist. */
+#if __cplusplus >= 201103L || defined(_MSVC_LANG)
 enum _matrixSize : int32_t { /* NOLINT(bugprone-reserved-identifier,cert-*): the name is part of the export */
+#else
+enum _matrixSize { /* an int with the compilers of the device */
+#endif
   kMatrixSizeSmallestSquare = 0, /* needs permission to expand */
   kMatrixSize10x10 = 0x0A0A,     /* 10 rows, 10 columns */
   kMatrixSize12x12 = 0x0C0C,     /* 12 rows, 12 columns */
