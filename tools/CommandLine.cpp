@@ -246,7 +246,9 @@ std::string WhyBatchIsWrong(const CLI::App& app, const Options& options) {
 std::string WhyListIsWrong(const CLI::App& app, const std::string& asked) {
   for (const CLI::Option* option : app.get_options()) {
     const std::string name = option->get_name();
-    if (option->count() > 0 && name != asked) return asked + " stands alone, without " + name;
+    if (option->count() > 0 && name != asked) {
+      return fmt::format("{} stands alone, without {}", asked, name);
+    }
   }
   return "";
 }
