@@ -112,8 +112,10 @@ constexpr Departure kDepartures[] = {
      "another order (libdmtx) does not get the text",
      Effect::kReadsAlike},
     {"D-DM-2",
-     "the look-ahead counts every mode to the end of the text, gives Base 256 no start weight of "
-     "its own and bytes above 127 no extra weight; so Base 256 is never chosen",
+     "the look-ahead counts every mode to the end of the text; outside ASCII, ASCII starts at 2 "
+     "like the others; in front of a character that neither X12 nor EDIFACT has, small letters "
+     "apart, half an ASCII codeword is dropped; Base 256 has no start weight of its own and bytes "
+     "above 127 have no extra weight, so Base 256 is never chosen",
      "nothing: other codewords than from other encoders, and more of them for binary data",
      Effect::kReadsAlike},
     {"D-DM-3", "a byte from 129 to 255 is written in ASCII as 235, byte - 128",

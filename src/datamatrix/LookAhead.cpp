@@ -13,7 +13,8 @@ constexpr int CeilOfQuotient(int dividend, int divisor) {
 }
 
 // What the modes start from: nothing for the one that is in force, for another the latch and,
-// outside ASCII, the unlatch.
+// outside ASCII, the unlatch. D-DM-2: published 1 for ASCII from another mode, as it has no latch,
+// and a quarter more for Base 256.
 constexpr int StartCount(Mode mode, Mode current) {
   if (mode == current) return 0;
   return current == Mode::kAscii ? 1 : 2;

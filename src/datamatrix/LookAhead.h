@@ -3,8 +3,11 @@
 // 9, X12 5, EDIFACT 6 (5.5 rounded up), Base 256 7: the choice is C40.
 //
 // It differs from the published test, on purpose (ids in docs/deviations.md):
-//   D-DM-2  the counting always runs to the end of the text, and the extra weights of Base 256 and
-//           of characters above 127 are left out; so Base 256 is never chosen
+//   D-DM-2  the counting always runs to the end of the text, ASCII starts at 2 where another mode
+//   is
+//           in force, half an ASCII codeword is dropped in front of some characters, and the extra
+//           weights of Base 256 and of characters above 127 are left out; so Base 256 is never
+//           chosen
 //
 // The counts are defined as sums in double precision, each addition in text order, from start
 // counts to the end of the text, rounded up there. The class gives the modes of that definition but

@@ -1,6 +1,7 @@
 // The weights of the look-ahead: what one character of the text adds to the codewords that each
-// encodation mode would need, by the character's class. They are those of ISO/IEC 16022 without its
-// extra weights for characters above 127.
+// encodation mode would need, by the character's class. They are those of ISO/IEC 16022 but for
+// D-DM-2 (docs/deviations.md): characters above 127 have no extra weights, and the last class makes
+// the ASCII count whole downwards.
 //
 // The unit is the standard's: C40, Text and X12 need two codewords for three values, that is 2/3 of
 // a codeword a value, EDIFACT 3/4 a character, ASCII a half a digit. Base 256 always needs one.
@@ -29,7 +30,7 @@ constexpr int kCharacterClassCount = static_cast<int>(CharacterClass::kClassCoun
 enum ThirdsColumn { kC40Thirds, kTextThirds, kX12Thirds, kThirdsColumnCount };
 
 // How the ASCII count takes a character: a digit adds a half; everything else makes the count whole
-// first, upwards or downwards, and adds one.
+// first, upwards or, for D-DM-2, downwards, and adds one.
 enum class AsciiRule : std::uint8_t { kHalf, kRoundUp, kTruncate };
 
 struct LookAheadWeights {
@@ -49,7 +50,7 @@ constexpr LookAheadWeights kLookAheadWeights[kCharacterClassCount] = {
     {AsciiRule::kRoundUp,   {  4,      4,     10},      3},  // printable
     {AsciiRule::kRoundUp,   {  4,      4,      2},     13},  // return
     {AsciiRule::kRoundUp,   {  4,      2,     10},     13},  // lower
-    {AsciiRule::kTruncate,  {  4,      4,     10},     13},  // other
+    {AsciiRule::kTruncate,  {  4,      4,     10},     13},  // other; D-DM-2: published kRoundUp
 };
 // clang-format on
 

@@ -2,6 +2,7 @@
 // written, and what a standard reader makes of it.
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
@@ -42,6 +43,30 @@ TEST(DataMatrixDeviations, DDM2LookAheadCountsToTheEndOfTheText) {
 TEST(DataMatrixDeviations, DDM2BytesAbove127HaveNoExtraWeight) {
   // The published test makes each of them 2 in ASCII and 1 in Base 256.
   EXPECT_EQ(Encoded(std::string(6, '\xE9')), "235 105 235 105 235 105 235 105 235 105 235 105");
+}
+
+// Three control characters, asked from C40: two values each, 4 codewords. Counted as published,
+// from 1, ASCII would need as many, and it has the tie.
+TEST(DataMatrixDeviations, DDM2AsciiStartsAtTwoOutsideAscii) {
+  const std::u16string controls(3, u'\x01');
+  EXPECT_EQ(LookAhead(controls.data(), 3).ModeFor(0, Mode::kC40), Mode::kC40);
+  // 0 1 0 = 41 = 0 41, 1 0 1 = 1602 = 6 66
+  EXPECT_EQ(Encoded("AIMAIMAIMAIM\x01\x01\x01"), "230 91 11 91 11 91 11 91 11 0 41 6 66 254");
+}
+
+// Six times a digit and a control character, twenty letters: 1 codeword each in ASCII, 26 in all,
+// and 27 in C40 with its latch. With the half of each digit rounded up, as published, ASCII would
+// need 32.
+TEST(DataMatrixDeviations, DDM2HalfACodewordIsDroppedInFrontOfAControlCharacter) {
+  std::string pairs;
+  for (int i = 0; i < 6; ++i) pairs += "1\x01";
+  const std::u16string dropped = test::Wide(pairs + std::string(20, 'A'));
+  EXPECT_EQ(LookAhead(dropped.data(), dropped.size()).ModeFor(0, Mode::kAscii), Mode::kAscii);
+  for (char16_t other : {u'!', u'a', u'\r'}) {  // what X12 or EDIFACT has, and small letters
+    std::u16string roundedUp = dropped;
+    for (std::size_t i = 1; i < 12; i += 2) roundedUp[i] = other;
+    EXPECT_NE(LookAhead(roundedUp.data(), roundedUp.size()).ModeFor(0, Mode::kAscii), Mode::kAscii);
+  }
 }
 
 TEST(DataMatrixDeviations, DDM2Base256IsNeverChosen) {
