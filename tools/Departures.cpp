@@ -137,10 +137,12 @@ constexpr Departure kDepartures[] = {
      "beginning (at the end of the text: the pads as characters)",
      Effect::kMayReadOtherwise},
     {"D-DM-8",
-     "a text that ends with a whole group of C40, Text, X12 or EDIFACT gets its unlatch also "
-     "where its codewords fill a symbol",
-     "nothing: the next symbol size (none above 1558 codewords: refused), or a rectangle whose "
-     "last codeword is the unlatch",
+     "at the end of a text in C40, Text, X12 or EDIFACT the unlatch is written also where the "
+     "symbol would be full without it: behind a whole group; in C40, Text and X12 in front of one "
+     "character that would fill a rectangle of 10, 16, 32 or 49 codewords; in C40 and Text in "
+     "front of characters whose values would fill the last two codewords, with a pad or without",
+     "nothing: the next symbol size, a refusal where that does not suit the request or does not "
+     "exist, or a rectangle whose last codeword is the unlatch",
      Effect::kReadsAlike},
     {"D-DM-9", "EDIFACT writes the low six bits of any character",
      "another character with the same six bits (! for a); from _ and the bytes 31, 159 and 223 "

@@ -160,10 +160,24 @@ class Outliner {
     }
     const std::size_t restEnd = end + DataAhead(end, kTriple);
     // A last character that would leave values over ends the text in ASCII.
+    if (restEnd == units_.size()) codewordsByTheBook_ = CodewordsByTheBook();
     const bool isWhole = end == restEnd && restEnd == units_.size();
     if (isWhole && ValuesBetween(position_, end) % 3 != 0) --end;
     PackUntil(LastPlaceToLeave(end));
     EndStretch(restEnd);
+  }
+
+  // Of a symbol that the rest of the text, all of it in this mode, fills without an unlatch; -1
+  // where it could fill none.
+  int CodewordsByTheBook() const {
+    for (std::size_t i = position_; i < units_.size(); ++i) {
+      if (ValueCount(mode_, bytes_[i]) == 0) return -1;
+    }
+    const std::size_t values = ValuesBetween(position_, units_.size());
+    const int whole = codewords_ + static_cast<int>(values / 3 * 2);
+    if (values % 3 == 0) return whole;
+    if (values % 3 == 2) return mode_ == MatrixMode::kX12 ? -1 : whole + 2;
+    return ValueCount(mode_, bytes_.back()) == 1 ? whole + 1 : -1;
   }
 
   void LeaveTriples(std::size_t end, MatrixMode mode) {
@@ -189,7 +203,10 @@ class Outliner {
   // The rest of the text, or what stands in front of a designator, goes on in ASCII.
   void EndStretch(std::size_t restEnd) {
     if (restEnd == units_.size() && position_ == restEnd) return EndWithGroup();
-    if (restEnd < units_.size() || !IsUnlatchImplied()) Unlatch();
+    if (restEnd < units_.size() || !IsUnlatchImplied()) {
+      Unlatch();
+      isUnlatchedForRest_ = restEnd == units_.size();
+    }
     WriteAsciiUntil(restEnd);
     mode_ = MatrixMode::kAscii;
   }
@@ -224,6 +241,10 @@ class Outliner {
       if (capacity - at <= 2) Meet(10);
     }
     if (codewordsAtEnd_ >= 0) ConcludeGroupAtEnd(capacity);
+    if (isUnlatchedForRest_ && codewordsByTheBook_ >= 0 &&
+        CapacityFor(codewordsByTheBook_) == codewordsByTheBook_) {
+      Meet(8);
+    }
   }
 
   void ConcludeGroupAtEnd(int capacity) {
@@ -245,6 +266,8 @@ class Outliner {
   MatrixMode modeAtEnd_ = MatrixMode::kAscii;
   int codewordsAtEnd_ = -1;  // where the text ends with a whole group: before its unlatch
   bool isUnlatchedAtEnd_ = false;
+  int codewordsByTheBook_ = -1;  // where the text ends in C40, Text or X12
+  bool isUnlatchedForRest_ = false;
   MatrixOutline outline_;
 };
 

@@ -51,7 +51,8 @@ int SymbolCapacity(const EncodationState& state, int codewords) {
 }
 
 // A symbol with one codeword left for C40, Text or X12, or at most two for EDIFACT, goes on in
-// ASCII.
+// ASCII. D-DM-8: for the three only at a square capacity, published in every symbol; and two
+// codewords left are never filled in C40 or Text, with a pad where one value is missing.
 bool SymbolImpliesUnlatch(const EncodationState& state) {
   const int count = state.codewords.Count();
   const int rest = AsciiCodewordsUntil(state, state.length);

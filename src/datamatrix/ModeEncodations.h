@@ -15,7 +15,7 @@
 //   D-DM-5   Base 256 writes nothing (and is never chosen, D-DM-2)
 //   D-DM-6   the FNC1 of code format 1 stands behind the first codeword, whatever that is
 //   D-DM-7   no unlatch is written one below a square capacity, also where the symbol goes on
-//   D-DM-8   a text that ends with a whole group gets its unlatch also where the symbol is full
+//   D-DM-8   the end of a text gets its unlatch also where the symbol would be full without it
 //   D-DM-9   EDIFACT writes the low six bits of any character
 //   D-DM-10  the EDIFACT unlatch is a codeword of its own
 #ifndef BARHATCH_DATAMATRIX_MODEENCODATIONS_H

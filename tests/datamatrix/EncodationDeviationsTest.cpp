@@ -184,6 +184,26 @@ TEST(DataMatrixDeviations, DDM8UnlatchMayBeTheLastCodewordOfARectangle) {
   EXPECT_EQ(ReadIn(10, text, 0, {8, 32, 0}), ItemsOf(text));
 }
 
+// Published: 'A' in ASCII as the tenth codeword, without an unlatch, and 8 x 32 is full.
+TEST(DataMatrixDeviations, DDM8OneCharacterForTheLastCodewordOfARectangleIsUnlatchedFor) {
+  const std::string text = "AIMAIMAIMAIMA";
+  EXPECT_EQ(Encoded(text, 0, {8, 32, 0}), "230 91 11 91 11 91 11 91 11 254 66");
+  EXPECT_EQ(ReadIn(12, text, 0, {16, 16, 0}), ItemsOf(text));
+  SymbolSize chosen{};
+  EXPECT_TRUE(ChooseSymbolSize(10, {8, 32, 0}, chosen));
+  EXPECT_FALSE(ChooseSymbolSize(11, {8, 32, 0}, chosen));
+}
+
+// Published: 142 230 91 11 91 11 and the group 14 22 0 (a pad), 90 241, fill 14 x 14.
+TEST(DataMatrixDeviations, DDM8TwoCharactersForTheLastTwoCodewordsAreUnlatchedFor) {
+  EXPECT_EQ(Encoded("12AIMAIMAI"), "142 230 91 11 91 11 254 66 74");
+  EXPECT_EQ(Encoded("12aimaimai"), "142 239 91 11 91 11 254 98 106");
+  EXPECT_EQ(ReadIn(12, "12AIMAIMAI"), ItemsOf("12AIMAIMAI"));
+  SymbolSize chosen{};
+  EXPECT_TRUE(ChooseSymbolSize(8, {14, 14, 0}, chosen));
+  EXPECT_FALSE(ChooseSymbolSize(9, {14, 14, 0}, chosen));
+}
+
 TEST(DataMatrixDeviations, DDM8TextThatFillsTheLargestSymbolOverflows) {
   EXPECT_EQ(Encoded(std::string(3 * 778, 'A'), 2), "overflow");  // 236 230 and 1556
 }
