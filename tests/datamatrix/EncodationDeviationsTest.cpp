@@ -229,6 +229,13 @@ TEST(DataMatrixDeviations, DDM9UnderscoreIsReadAsTheUnlatch) {
   EXPECT_EQ(read, ItemsOf("AB"));
 }
 
+// The look-ahead keeps EDIFACT for the one small letter; 22 codewords fill 20 x 20.
+TEST(DataMatrixDeviations, DDM9SmallLetterAmongSignsIsReadAsASign) {
+  const std::string text = "A-B/C-D/E-F/G-Ha-I/J-K/L-M";
+  EXPECT_EQ(Encoded(text).substr(0, 4), "240 ");
+  EXPECT_EQ(ReadIn(22, text), ItemsOf("A-B/C-D/E-F/G-H!-I/J-K/L-M"));
+}
+
 TEST(DataMatrixDeviations, DDM10EdifactUnlatchIsACodewordOfItsOwn) {
   // Published: '.' and the unlatch in one group, 101110 011111 00 = 185 240.
   const std::string text = "....ABCD....ABCD.";
@@ -247,6 +254,12 @@ TEST(DataMatrixDeviations, DDM10UnlatchInTheLastTwoCodewordsIsReadAsABrace) {
   EXPECT_EQ(buffer[16], 124);
   EXPECT_EQ(ReadDataCodewords(Padded(test::CodewordsOf(buffer), 18)).items,
             ItemsOf("xxxxxx....ABCD....{"));
+}
+
+// A - 1 / = 000001 101101 110001 101111 = 6 220 111; 10 codewords and the unlatch, in 16 x 16.
+TEST(DataMatrixDeviations, DDM10TwelveCharactersOfEdifactAreReadWithABraceBehindThem) {
+  EXPECT_EQ(Encoded("A-1/B-2/C-3/"), "240 6 220 111 10 220 175 14 220 239 124");
+  EXPECT_EQ(ReadIn(12, "A-1/B-2/C-3/"), ItemsOf("A-1/B-2/C-3/{"));
 }
 
 }  // namespace
