@@ -67,8 +67,9 @@ bool IsOneBelowSquareCapacity(const EncodationState& state);
 
 // Ends a stretch of C40, Text, X12 or EDIFACT at restEnd, the end of the text or a designator: what
 // is left in front of it goes out in ASCII, behind the unlatch. At the end of the text the unlatch
-// is left out where the finished symbol implies it. Where nothing is left at the end of the text
-// the unlatch is written unless IsOneBelowSquareCapacity (D-DM-7, D-DM-8).
+// is left out where the finished symbol implies it (for C40, Text and X12 at square capacities
+// alone, D-DM-8). Where nothing is left at the end of the text the unlatch is written unless
+// IsOneBelowSquareCapacity (D-DM-7, D-DM-8).
 void EndStretch(EncodationState& state, std::size_t restEnd);
 
 // --- AsciiEncodation.cpp
