@@ -1,6 +1,7 @@
 """What scripts/mutate --operators changes: every comparison, condition and arithmetic operator of src/, and every
-statement that can be left out. Found by the spaces that the formatter puts around binary operators, outside of comments,
-texts, and what the compiler alone evaluates (static_assert and the functions that only stand for one).
+statement that can be left out; and --numbers: every number in a function, by one up and down, and every condition, taken
+for true and for false. Found by the spaces that the formatter puts around binary operators, outside of comments, texts,
+and what the compiler alone evaluates (static_assert and the functions that only stand for one).
 """
 import re
 
@@ -16,6 +17,10 @@ OPERATOR = re.compile(r"(?<= )(" + "|".join(sorted(map(re.escape, BINARY), key=l
 STEP = re.compile(r"\+\+|--")
 NEGATION = re.compile(r"(?<![\w)])!(?=[\w(])")
 CONDITION = re.compile(r"\b(?:if|while) \(")
+LOOP = re.compile(r"\bfor \([^;:()]*;([^;]*);")
+CHOICE = re.compile(r"(?:return|(?<![=!<>])=(?!=)|[,(]) ?((?:[^?;,()=\n\x00]|[=!<>]=|\([^?;()]*\))+?) \?\s")
+BODY = re.compile(r"\)(?: const)?(?: noexcept)?(?: override)? \{|\)\s+: [^;]*?\{")
+NUMBER = re.compile(r"(?<![\w.'\x00])(\d+(?:\.\d+)?)(?![\w.'\x00])")
 ANSWER = re.compile(r"\breturn (true|false);")
 # A call whose result nobody wants, or an assignment: one line that no type begins.
 STATEMENT = re.compile(r"^ +((?!(?:return|case|using|delete|default)\b)[\w.:\[\]>*()-]+(?:<\w+>)?"
@@ -87,6 +92,38 @@ def changes(text):
             yield found.end() - 1, end, "condition", "(!" + text[found.end() - 1:end] + ")"
     for found in ANSWER.finditer(text):
         yield found.start(1), found.end(1), "answer", "false" if found[1] == "true" else "true"
+
+
+def bodies(text):
+    """Where functions stand, the outermost ones."""
+    end = 0
+    for found in BODY.finditer(text):
+        if found.end() > end:
+            end = closing(text, found.end() - 1)
+            yield found.end(), end
+
+
+def next_numbers(number):
+    if "." in number:
+        return (str(float(number) + 1.0), str(float(number) / 2 if float(number) else -1.0))
+    return (str(int(number) + 1), *([str(int(number) - 1)] if int(number) else []))
+
+
+def numbers(text):
+    for begin, end in bodies(text):
+        for found in NUMBER.finditer(text, begin, end):
+            for after in next_numbers(found[1]):
+                yield found.start(1), found.end(1), "number", after
+    for found in CONDITION.finditer(text):
+        end = closing(text, found.end() - 1, "()")
+        if re.search(r"[^=!<>]=[^=]", text[found.end():end]) is None:
+            for after in ("(true)", "(false)"):
+                yield found.end() - 1, end, "condition", after
+    for rule in (LOOP, CHOICE):
+        for found in rule.finditer(text):
+            if found[1].strip():
+                for after in (" true", " false"):
+                    yield found.start(1), found.end(1), "condition", after
 
 
 def left_out(text):
@@ -174,18 +211,24 @@ def reason_it_is_equivalent(mutant, text):
     return None
 
 
-def all_mutants(root):
+def mutants_by(rules, root):
     for path in sorted(root.glob("src/**/*.cpp")) + sorted(root.glob("src/**/*.h")):
         name = path.relative_to(root).as_posix()
         if name in NOT_PRODUCT:
             continue
         text = path.read_text(encoding="utf-8")
         visible = asserted(without_proofs(without_hidden(text)))
-        found = list(changes(visible))
-        if path.suffix == ".cpp":  # in a header they are declarations
-            found += left_out(visible)
+        found = [change for rule in rules if rule != left_out or path.suffix == ".cpp" for change in rule(visible)]
         for start, end, what, after in sorted(found):
             if "\x00" in after:
                 after = "(!" + text[start:end] + ")"
             line = text.count("\n", 0, start) + 1
             yield Mutant(name, start, end, line, what, text[start:end], after, ())
+
+
+def all_mutants(root):
+    return mutants_by((changes, left_out), root)  # in a header, what looks like a statement is a declaration
+
+
+def all_numbers(root):
+    return mutants_by((numbers,), root)
