@@ -18,9 +18,10 @@ STEP = re.compile(r"\+\+|--")
 NEGATION = re.compile(r"(?<![\w)])!(?=[\w(])")
 CONDITION = re.compile(r"\b(?:if|while) \(")
 LOOP = re.compile(r"\bfor \([^;:()]*;([^;]*);")
-CHOICE = re.compile(r"(?:return|(?<![=!<>])=(?!=)|[,(]) ?((?:[^?;,()=\n\x00]|[=!<>]=|\([^?;()]*\))+?) \?\s")
-BODY = re.compile(r"\)(?: const)?(?: noexcept)?(?: override)? \{|\)\s+: [^;]*?\{")
-NUMBER = re.compile(r"(?<![\w.'\x00])(\d+(?:\.\d+)?)(?![\w.'\x00])")
+CHOICE = re.compile(r"\s\?\s")
+BEFORE_CONDITION = re.compile(r"(?:\breturn|[^=!<>]=|[,;?]|[^:]:)\s$|[({\[]$")
+BODY = re.compile(r"\)(?: const)?(?: noexcept)?(?: override)? \{|\)\s+: [^;]*?[)}] \{")
+NUMBER = re.compile(r"(?<![\w.'\x00])(0x[0-9A-F]+|\d+u|\d+(?:\.\d+)?)(?![\w.'\x00])")
 ANSWER = re.compile(r"\breturn (true|false);")
 # A call whose result nobody wants, or an assignment: one line that no type begins.
 STATEMENT = re.compile(r"^ +((?!(?:return|case|using|delete|default)\b)[\w.:\[\]>*()-]+(?:<\w+>)?"
@@ -100,13 +101,24 @@ def bodies(text):
     for found in BODY.finditer(text):
         if found.end() > end:
             end = closing(text, found.end() - 1)
-            yield found.end(), end
+            yield found.start(), end
+
+
+def condition_before(text, end):
+    """The condition whose question mark stands at the end."""
+    begin, depth = end, 0
+    while depth or not BEFORE_CONDITION.search(text, begin - 8, begin):
+        begin -= 1
+        depth += {")": 1, "]": 1, "(": -1, "[": -1}.get(text[begin], 0)
+    return begin + len(text[begin:end]) - len(text[begin:end].lstrip()), begin + len(text[begin:end].rstrip())
 
 
 def next_numbers(number):
     if "." in number:
         return (str(float(number) + 1.0), str(float(number) / 2 if float(number) else -1.0))
-    return (str(int(number) + 1), *([str(int(number) - 1)] if int(number) else []))
+    value, suffix = int(number.rstrip("u"), 0), "u" if number.endswith("u") else ""
+    written = "0x%X" if number.startswith("0x") else "%d"
+    return tuple(written % after + suffix for after in (value + 1, value - 1) if after >= 0)
 
 
 def numbers(text):
@@ -119,11 +131,11 @@ def numbers(text):
         if re.search(r"[^=!<>]=[^=]", text[found.end():end]) is None:
             for after in ("(true)", "(false)"):
                 yield found.end() - 1, end, "condition", after
-    for rule in (LOOP, CHOICE):
-        for found in rule.finditer(text):
-            if found[1].strip():
-                for after in (" true", " false"):
-                    yield found.start(1), found.end(1), "condition", after
+    ends = [found.span(1) for found in LOOP.finditer(text) if found[1].strip()]
+    choices = [condition_before(text, found.start()) for found in CHOICE.finditer(text)]
+    for begin, end in ends + choices:
+        for after in (" true", " false"):
+            yield begin, end, "condition", after
 
 
 def left_out(text):
