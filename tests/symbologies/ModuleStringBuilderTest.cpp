@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <csignal>
+#include <cstdlib>
+
 #include "support/OwnedString.h"
 
 namespace barhatch {
@@ -53,6 +56,33 @@ TEST(ModuleStringBuilder, FillsItsRoomToTheLastLetter) {
   ModuleStringBuilder interleaved(1, 6);
   interleaved.AppendInterleaved<3>("010", "110");
   EXPECT_EQ(Take(interleaved.Release()), "AbBbAa");
+}
+
+// Builders announced for five letters that get six. The assertions, where they are on, end the
+// program; without them there is no string.
+bool GivesAStringAfterSixLettersAtOnce() {
+  ModuleStringBuilder builder(1, 5);
+  builder.AppendSpace(6);
+  return Take(builder.Release()).has_value();
+}
+
+bool GivesAStringAfterFiveLettersAndOne() {
+  ModuleStringBuilder builder(1, 5);
+  builder.AppendSpace(5);
+  builder.AppendModules("1");
+  return Take(builder.Release()).has_value();
+}
+
+bool IsRefusal(int status) {
+  return testing::ExitedWithCode(EXIT_SUCCESS)(status) || testing::KilledBySignal(SIGABRT)(status);
+}
+
+TEST(ModuleStringBuilderDeathTest, MoreLettersThanAnnouncedAreNoString) {
+  constexpr const char* kNothingOrTheAssertion = "^$|overflowed_";
+  EXPECT_EXIT(std::exit(GivesAStringAfterSixLettersAtOnce() ? EXIT_FAILURE : EXIT_SUCCESS),
+              IsRefusal, kNothingOrTheAssertion);
+  EXPECT_EXIT(std::exit(GivesAStringAfterFiveLettersAndOne() ? EXIT_FAILURE : EXIT_SUCCESS),
+              IsRefusal, kNothingOrTheAssertion);
 }
 
 TEST(ModuleStringBuilder, AnEmptyStringIsAString) {
