@@ -167,7 +167,9 @@ TEST_F(ApiTraceTest, TextIsWrittenAsUtf8AtEveryBoundary) {
               {{0xD800, 0}, "\xEF\xBF\xBD"},
               {{0xDFFF, 0}, "\xEF\xBF\xBD"},
               {{0xDC00, 0xD7FF, 0}, "\xEF\xBF\xBD\xED\x9F\xBF"},
-              {{0xDBFF, 0xE000, 0}, "\xEF\xBF\xBD\xEE\x80\x80"}};
+              {{0xDBFF, 0xE000, 0}, "\xEF\xBF\xBD\xEE\x80\x80"},
+              {{0xD800, 0xDBFF, 0}, "\xEF\xBF\xBD\xEF\xBF\xBD"},
+              {{0xDC00, 0xDC00, 0}, "\xEF\xBF\xBD\xEF\xBF\xBD"}};
   for (const auto& row : rows) {
     const LinearBarcodeInfo info = LinearRecord(row.text);
     EXPECT_EQ(GenerateLinearBarcode(&info), nullptr);

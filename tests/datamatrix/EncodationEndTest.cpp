@@ -159,7 +159,7 @@ TEST(EndOfEdifact, CharactersLeftNeedNoUnlatchInTheLastTwoCodewordsOfTheSymbol) 
   const Rest rests[] = {{".", 1, "47"},         {"..", 2, "47 47"},     {"12", 1, "142"},
                         {"...", 3, "47 47 47"}, {"12.", 2, "142 47"},   {".12", 2, "47 142"},
                         {"123", 2, "142 52"},   {"1.2", 3, "50 47 51"}, {"\xE9", 2, "235 105"},
-                        {"\x7F", 1, "128"}};
+                        {"\x7F", 1, "128"},     {"\x81", 2, "235 1"}};
   for (const Rest& rest : rests) {
     for (int count = 0; count + rest.asciiCodewords < 1558; ++count) {
       int capacity = count + rest.asciiCodewords;
