@@ -180,6 +180,8 @@ EQUIVALENT = (
     ("ThirdsSum.cpp", "    ++work_;", "    --work_;", "a count for the tests, which look at its upper bound"),
     ("ThirdsSum.cpp", "pass.end < before.end", "pass.end <= before.end", "two passes with one end are the same from there on"),
     ("ThirdsSum.cpp", "+ 2 >= to.end", "+ 2 > to.end", "of two characters none is left for the multiplication"),
+    ("ThirdsSum.cpp", "+ 2 >= to.end", "- 2 >= to.end",
+     "of one character, at the end of the text, the one before is subtracted and added again; from 8 on that is exact"),
     ("LookAhead.cpp", "++work_;", "--work_;", "a count for the tests, which look at its upper bound"),
     ("LookAhead.cpp", "(digitsEnd_ - position_) % 2", "(digitsEnd_ + position_) % 2", "a sum and a difference are odd together"),
     ("LookAhead.cpp", "position > length_", "position >= length_", "at the end the mode in force costs least"),
