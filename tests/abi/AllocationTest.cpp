@@ -111,6 +111,29 @@ TEST_F(Allocation, AFillThatGetsNoMemoryEndsBeforeItsFirstStroke) {
   }
 }
 
+// The last two allocations are the coordinates and the record of the fill.
+TEST_F(Allocation, AMatrixFillThatGetsNoMemoryEndsBeforeItsFirstStroke) {
+  for (int pattern : {1, 2, 3, 5}) {
+    DataMatrixBarcodeInfo info = MatrixRecord(pattern);
+    std::size_t coordinates = 0;
+    {
+      AllocationProbe probe;
+      FreeBarcodeData(GenerateDataMatrixBarcode(&info));
+      coordinates = probe.Allocations() - 1;
+    }
+    info.height = 2e7;  // 100 million strokes and more
+    info.LineGap = 1.0;
+    const auto start = std::chrono::steady_clock::now();
+    FillBufferInfo* fill = nullptr;
+    {
+      AllocationProbe probe(coordinates);
+      fill = GenerateDataMatrixBarcode(&info);
+    }
+    EXPECT_EQ(fill, nullptr) << pattern;
+    EXPECT_LT(std::chrono::steady_clock::now() - start, std::chrono::milliseconds(100)) << pattern;
+  }
+}
+
 TEST_F(Allocation, FailuresOfTestStructAreNull) {
   ExpectRobust([] { return TakeFill(TestStruct()); });
 }

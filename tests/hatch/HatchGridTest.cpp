@@ -108,6 +108,7 @@ TEST(MostStrokes, CountsUpToThirtyTwoBitsOfGaps) {
   EXPECT_GE(MostStrokes(-2147483648.0, 2147483647.0, 1.0), 4294967295);
   EXPECT_EQ(MostStrokes(4.3e6, 4.3e6 + 1.0, 0.001), kUncountable);
   EXPECT_GE(MostStrokes(4.2e6, 4.2e6 + 1.0, 0.001), 1000);
+  EXPECT_EQ(MostStrokes(-0.9, -0.9 + 1e-6, 1e-10), kUncountable);
 }
 
 TEST(MostStrokes, NothingLiesInAnEmptyRange) {

@@ -53,6 +53,7 @@ TEST(CoordinateList, CapacityOfNothingStillGrows) {
 TEST(CoordinateList, TooLargeAListFailsAndLosesNothingElse) {
   CoordinateList list(static_cast<std::size_t>(-1) / 8);
   EXPECT_TRUE(list.HasFailed());
+  EXPECT_EQ(list.Capacity(), 0u);
   list.AppendSegment(1, 2, 3, 4);
   EXPECT_TRUE(list.HasFailed());
   EXPECT_EQ(list.Count(), 0u);

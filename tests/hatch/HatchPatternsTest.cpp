@@ -92,6 +92,13 @@ TEST(Spiral, OfTheUnitSquareHasNineSegments) {
 TEST(Spiral, OfATinyRectangleStillHasThreeSegments) {
   EXPECT_EQ(Fill({{0, 0, 0.01, 0.01}}, 5, g).size(), 12u);
   EXPECT_EQ(Fill({{0, 0, 0.01, 5}}, 5, g).size(), 12u);
+  EXPECT_EQ(Most({{0, 0, 0.01, 0.01}}, 5, g), 12);
+  EXPECT_EQ(Most({{0, 0, 0.01, 5}}, 5, g), 12);
+}
+
+TEST(Spiral, OfAFlatRectangleHasALegBackAndNoMore) {
+  EXPECT_EQ(Fill({{0, 0, 5, 0.01}}, 5, g).size(), 16u);
+  EXPECT_EQ(Most({{0, 0, 5, 0.01}}, 5, g), 16);
 }
 
 TEST(Spiral, MovesLowerBoundsOneGapInsideUnlessTheyAreZero) {
@@ -167,6 +174,20 @@ TEST(HatchPatterns, FourAndUnknownTypesFillNothing) {
        {4, 7, -1, 100, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()}) {
     EXPECT_TRUE(Fill({{0, 0, 1, 1}}, type, g).empty()) << type;
     EXPECT_EQ(Most({{0, 0, 1, 1}}, type, g), 0) << type;
+  }
+}
+
+TEST(HatchPatterns, NoRectangleNeedsNoDoubles) {
+  for (int type : {0, 1, 2, 3, 5, 6}) EXPECT_EQ(Most({}, type, g), 0) << type;
+}
+
+TEST(HatchPatterns, AListWithoutMemoryTakesNothing) {
+  for (int type : {0, 1, 2, 3, 5, 6}) {
+    RectList list;
+    CoordinateList coordinates(std::numeric_limits<std::size_t>::max() / 8);
+    ASSERT_TRUE(coordinates.HasFailed());
+    FillRects(Collect(list, {{0, 0, 1, 1}}), {type, g}, coordinates);
+    EXPECT_EQ(coordinates.Count(), 0u) << type;
   }
 }
 

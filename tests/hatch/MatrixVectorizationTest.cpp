@@ -43,6 +43,22 @@ TEST_F(MatrixVectorization, TheBottomRowComesFirstAndTheTopRowEndsAtTheHeight) {
   EXPECT_EQ(fill->FillingShapeType, 0);
 }
 
+TEST_F(MatrixVectorization, ASingleRowOrColumnIsAMatrix) {
+  SetBarcodeHeight(3);
+  SetHatchPattern(3.0, 0);
+  const OwnedFill row = Vectorize({"#.#"});
+  ASSERT_TRUE(row);
+  EXPECT_EQ(Doubles(*row), (std::vector<double>{0, 0, 3, 0, 6, 0, 9, 0}));
+  EXPECT_EQ(row->FillHeight, -3.0);
+  EXPECT_EQ(row->FillWidth, 3.0);
+  SetHatchPattern(1.0, 0);
+  const OwnedFill column = Vectorize({"#", ".", "#"});
+  ASSERT_TRUE(column);
+  EXPECT_EQ(Doubles(*column), (std::vector<double>{0, 0, 1, 0, 0, 2, 1, 2}));
+  EXPECT_EQ(column->FillHeight, 1.0);
+  EXPECT_EQ(column->FillWidth, -1.0);
+}
+
 TEST_F(MatrixVectorization, InvertedTheLightModulesAreFilled) {
   SetBarcodeHeight(2);
   SetHatchPattern(1.0, 0);
