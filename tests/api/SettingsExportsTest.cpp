@@ -4,6 +4,7 @@
 #include <limits>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "api/BarcodeSettings.h"
 #include "barhatch.h"
@@ -230,6 +231,14 @@ TEST_F(TextLimit, NullTextIsHarmlessAndRefused) {
   InitBarcode();
   UseCode39("7");
   EXPECT_TRUE(Take(GenerateBarcodeString()));
+}
+
+TEST_F(TextLimit, AnEmptyTextEndsWhereItBegins) {
+  std::vector<BarhatchChar> text(2 * kDataStringCapacity, BarhatchChar{'7'});
+  text[0] = 0;
+  SetDataString(text.data());
+  EXPECT_FALSE(CurrentSettings().DataStringRefused);
+  EXPECT_EQ(std::u16string(CurrentSettings().DataString), u"");
 }
 
 TEST_F(TextLimit, ATextWithoutEndInSightIsReadNoFurtherThanTheLimit) {

@@ -223,5 +223,14 @@ TEST(LookAhead, WorkIsLinearInTheText) {
   }
 }
 
+TEST(LookAhead, WorkIsLinearInARunOfDigits) {
+  for (const std::size_t length : {779u, 1558u, 3116u}) {
+    const std::u16string text(length, u'7');
+    LookAhead lookAhead(text.data(), length);
+    for (std::size_t p = 0; p <= length; ++p) lookAhead.ModeFor(p, Mode::kAscii);
+    EXPECT_LT(lookAhead.Work(), 120 * length);
+  }
+}
+
 }  // namespace
 }  // namespace barhatch
