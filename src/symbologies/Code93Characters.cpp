@@ -88,9 +88,9 @@ constexpr signed char ValueOfCharacter(char character) {
 }
 
 constexpr signed char ValueOfShift(char sign) {
-  for (signed char value = 0; value < kCode93CheckModulus; ++value) {
-    const char* symbol = kCode93Characters[value].symbol;
-    if (symbol[0] == '(' && symbol[1] == sign) return value;
+  for (signed char shift = 0; shift < kCode93CheckModulus; ++shift) {
+    const char* symbol = kCode93Characters[shift].symbol;
+    if (symbol[0] == '(' && symbol[1] == sign) return shift;
   }
   return kCode93NoValue;
 }
