@@ -175,6 +175,11 @@ EQUIVALENT = (
     ("LookAhead.cpp", "mode)) return true;", "mode)) return false;",
      "a shortcut less: the choices behind it are tried one by one and agree"),
     ("C40Sets.h", "          return false;", "          return true;", "a statement for the compiler alone"),
+    *(("C40Sets.h", before, after, "a statement for the compiler alone")
+      for before, after in (("i = 0; i < kSetBytes", "i = 1; i < kSetBytes"), (" i < kSetBytes;", " false;"),
+                            ("k = 0; k < i", "k = 1; k < i"), (" k < i;", " false;"),
+                            ("(rows[i].count == rows[k].count && rows[i].values[0] == rows[k].values[0] &&\n"
+                             "            rows[i].values[1] == rows[k].values[1] && rows[i].count != 0)", "(false)"))),
     ("ReedSolomon.h", "/ ", "* ", "an array longer than needed"),
     ("ThirdsSum.h", "kLastPower - kFirstPower", "kLastPower + kFirstPower", "an array longer than needed"),
     ("ThirdsSum.cpp", "    ++work_;", "    --work_;", "a count for the tests, which look at its upper bound"),
