@@ -214,7 +214,8 @@ EQUIVALENT = (
     ("GrowableArray.h", "capacity > static_cast", "capacity >= static_cast", "nobody has so much memory"),
     ("GrowableArray.h", "PTRDIFF_MAX) / sizeof", "PTRDIFF_MAX) * sizeof",
      "this compiler checks as well and gives null; others end the program"),
-    *(("ApiTrace.cpp", "value = 0.0", f"value = {other}", "written before it is read") for other in ("-1.0", "1.0")),
+    *(("ApiTrace.cpp", "value = 0.0", f"value = {other}", "written before it is read")
+      for other in ("-1.0", "1.0")),
     ("ApiTrace.cpp", "(stream_ != nullptr)", "(true)", "without a stream of its own it writes out the others"),
     ("ApiTrace.cpp", "text != nullptr ?", " true ?", "this runtime prints the same for null"),
     ("ApiTrace.cpp", "(!AreWanted())", "(false)", "each piece asks again"),
@@ -232,9 +233,11 @@ EQUIVALENT = (
                            ("DataMatrixEncoder.cpp", "codewords_"))),
     *(("LookAhead.cpp", before, after, "a shortcut less: the choices behind it are tried one by one and agree")
       for before, after in (("mode = 1;", "mode = 0;"),
-                            ("(mode != static_cast<int>(candidate) && counts.counts[mode] <= counts[candidate])", "(true)"),
+                            ("(mode != static_cast<int>(candidate) && counts.counts[mode] <= counts[candidate])",
+                             "(true)"),
                             ("(mode == Mode::kAscii || IsBelowAllOthers(behind, mode))", "(false)"),
-                            ("(ChooseMode(raisedCounts) != mode)", "(true)"), ("(IsSettled(counts, whole, mode))", "(false)"))),
+                            ("(ChooseMode(raisedCounts) != mode)", "(true)"),
+                            ("(IsSettled(counts, whole, mode))", "(false)"))),
     ("LookAhead.cpp", "mode = 2;", "mode = 1;", "ASCII is taken also where its count is shared"),
     ("Placement.cpp", "column >= 0; row += 2", "column >= 1; row += 2", "on the way down columns are odd"),
     ("Placement.cpp", "(row >= 2 && column >= 2)", "(false)", "both ways write the same modules"),
@@ -245,7 +248,8 @@ EQUIVALENT = (
     ("ReedSolomon.cpp", "sum = 0", "sum = 1", "an array longer than needed"),
     ("ReedSolomon.cpp", "value >= 256", "value >= 255", "what was doubled is even"),
     *(("ReedSolomon.cpp", before, after, "the leading coefficient is 1, and log[0] is the logarithm of 1 as well")
-      for before, after in (("power = degree + 1", "power = degree + 0"), ("+ degree + 1] : 0", "+ degree + 1] : 1"), ("{1}", "{0}"))),
+      for before, after in (("power = degree + 1", "power = degree + 0"),
+                            ("+ degree + 1] : 0", "+ degree + 1] : 1"), ("{1}", "{0}"))),
     ("ReedSolomon.cpp", "(factor != lowestBit)", "(false)", "the same products one by one"),
     ("ReedSolomon.cpp", "kMaxWords + 1", "kMaxWords + 2", "an array longer than needed"),
     ("SymbolGrid.cpp", "column = 0; column < size_.symbolColumns", "column = 1; column < size_.symbolColumns",
@@ -259,7 +263,8 @@ EQUIVALENT = (
     ("ThirdsSum.cpp", "(3 * start", "(4 * start", "a start is below three, and the division drops the rest"),
     ("Code11Symbology.cpp", "{c, 0}", "{c, 1}", "of one check character the second is not read"),
     *(("Code11Symbology.cpp", before, after, "the usual 24,936 bytes hold the longest text")
-      for before, after in (("6 * (length", "5 * (length"), ("6 * (length", "7 * (length"), ("+ 4)", "+ 3)"), ("+ 4)", "+ 5)"),
+      for before, after in (("6 * (length", "5 * (length"), ("6 * (length", "7 * (length"),
+                            ("+ 4)", "+ 3)"), ("+ 4)", "+ 5)"),
                             ("- 1 +", "- 0 +"), ("- 1 +", "- 2 +"), ("2 * static_cast", "1 * static_cast"),
                             ("2 * static_cast", "3 * static_cast"))),
     ("Code128Patterns.cpp", "i < 6", "i < 5", "the last element is light, as what nobody writes is"),
