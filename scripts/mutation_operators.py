@@ -219,8 +219,6 @@ EQUIVALENT = (
     ("ApiTrace.cpp", "(stream_ != nullptr)", "(true)", "without a stream of its own it writes out the others"),
     ("ApiTrace.cpp", "text != nullptr ?", " true ?", "this runtime prints the same for null"),
     ("ApiTrace.cpp", "(!AreWanted())", "(false)", "each piece asks again"),
-    ("ApiTrace.cpp", "(grid == nullptr)", "(false)", "the exports ask before"),
-    ("ApiTrace.cpp", "(fill == nullptr)", "(false)", "the exports ask before"),
     ("DataMatrixExports.cpp", "(matrix->data != nullptr)", "(true)", "the hatcher refuses a matrix without modules as well"),
     *(("AsciiEncodation.cpp", before, after, "a number is at most 65,535: the first quotient is 0, the second at most 193")
       for before, after in (("16383) / 64516", "16382) / 64516"), ("16383) / 64516", "16384) / 64516"),
@@ -317,13 +315,19 @@ EQUIVALENT = (
 )
 
 
-def reason_it_is_equivalent(mutant, text):
+def equivalent_row(mutant, text):
     first, last = text.rfind("\n", 0, mutant.start) + 1, text.find("\n", mutant.end)
     line, changed = text[first:last], text[first:mutant.start] + mutant.after + text[mutant.end:last]
-    for file, before, after, reason in EQUIVALENT:
+    for row in EQUIVALENT:
+        file, before, after, _ = row
         if mutant.file.endswith(file) and before in line and line.replace(before, after, 1) == changed:
-            return reason
+            return row
     return None
+
+
+def reason_it_is_equivalent(mutant, text):
+    row = equivalent_row(mutant, text)
+    return row and row[-1]
 
 
 def mutants_by(rules, root):
@@ -347,3 +351,13 @@ def all_mutants(root):
 
 def all_numbers(root):
     return mutants_by((numbers,), root)
+
+
+def rows_without_mutant(root):
+    """Reasons that have outlived their code."""
+    texts = {}
+    rows = set(EQUIVALENT)
+    for mutant in (*all_mutants(root), *all_numbers(root)):
+        text = texts.setdefault(mutant.file, (root / mutant.file).read_text(encoding="utf-8"))
+        rows.discard(equivalent_row(mutant, text))
+    return sorted(rows)

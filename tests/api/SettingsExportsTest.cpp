@@ -4,7 +4,6 @@
 #include <limits>
 #include <memory>
 #include <string>
-#include <vector>
 
 #include "api/BarcodeSettings.h"
 #include "barhatch.h"
@@ -231,14 +230,6 @@ TEST_F(TextLimit, NullTextIsHarmlessAndRefused) {
   InitBarcode();
   UseCode39("7");
   EXPECT_TRUE(Take(GenerateBarcodeString()));
-}
-
-TEST_F(TextLimit, AnEmptyTextEndsWhereItBegins) {
-  std::vector<BarhatchChar> text(2 * kDataStringCapacity, BarhatchChar{'7'});
-  text[0] = 0;
-  SetDataString(text.data());
-  EXPECT_FALSE(CurrentSettings().DataStringRefused);
-  EXPECT_EQ(std::u16string(CurrentSettings().DataString), u"");
 }
 
 TEST_F(TextLimit, ATextWithoutEndInSightIsReadNoFurtherThanTheLimit) {

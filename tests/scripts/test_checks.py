@@ -176,5 +176,24 @@ class Coverage(unittest.TestCase):
         self.assertIn("explains lines that do run", self.judge(1, 1)[0])
 
 
+
+class Mutation(Copy):
+    def list_of(self):
+        return run(self.root / "scripts/mutate", "--list")
+
+    def test_passes_the_tree(self):
+        self.assertEqual(self.list_of().returncode, 0)
+
+    def test_a_table_that_is_gone(self):
+        self.change("src/symbologies/Code11Symbology.cpp", "kCode11Characters[]", "kCharacters[]")
+        self.assertNotEqual(self.list_of().returncode, 0)
+
+    def test_a_reason_whose_code_is_gone(self):
+        self.change("src/hatch/HatchGrid.cpp", "value < 0.0", "value <= 0.0")
+        result = self.list_of()
+        self.assertEqual(result.returncode, 1, result.stderr)
+        self.assertIn("outlived its code: HatchGrid.cpp value < 0.0", result.stdout)
+
+
 if __name__ == "__main__":
     unittest.main()
