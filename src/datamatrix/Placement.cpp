@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstring>
 
-#include "symbologies/ModuleString.h"
+#include "job/ModuleString.h"
 
 namespace barhatch {
 

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <new>
 
-#include "symbologies/ModuleString.h"
+#include "job/ModuleString.h"
 
 namespace barhatch {
 

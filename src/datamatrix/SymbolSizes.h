@@ -20,6 +20,8 @@
 
 #include <cstdint>
 
+#include "job/Job.h"
+
 namespace barhatch {
 
 // One row of the standard's table. The mapping matrix is the symbol without finder, clock and
@@ -45,14 +47,6 @@ extern const SymbolSize kRectangularSizes[kRectangularSizeCount];
 
 constexpr int kMaxDataCodewords = 1558;  // 144 x 144
 constexpr int kMaxCodewords = 2178;      // 144 x 144: 1558 + 620
-
-// What the host asks for. isExpanding is kept as given: 0 forbids the symbol to grow beyond rows
-// and columns, every other value allows it, but only 1 lets a rectangle become a square.
-struct SizeRequest {
-  int rows;     // 0..255
-  int columns;  // 0..255
-  std::int32_t isExpanding;
-};
 
 // matrixSize: rows in bits 8 to 15, columns in bits 0 to 7; the higher bits have no meaning.
 SizeRequest RequestFromMatrixSize(std::int32_t matrixSize, std::int32_t isExpanding);

@@ -1,6 +1,6 @@
 #include "hatch/BuildRects.h"
 
-#include "symbologies/ModuleString.h"
+#include "job/ModuleString.h"
 
 namespace barhatch {
 

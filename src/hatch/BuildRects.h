@@ -7,16 +7,9 @@
 #include <cstdint>
 
 #include "hatch/HatchLists.h"
+#include "job/Job.h"
 
 namespace barhatch {
-
-enum class FilledElements { kDark, kLight };  // kLight: the image is inverted
-
-struct ElementSizes {
-  double moduleSize;  // width of a narrow element
-  double wideSize;    // width of a wide element
-  double barHeight;
-};
 
 // Width in modules: every 'A' or 'a' counts 1.0, every 'B' or 'b' counts printRatio, nothing else
 // counts. "ABab" with a print ratio of 2.5 has 7.0 modules.

@@ -1,6 +1,6 @@
 #include "hatch/MatrixRects.h"
 
-#include "symbologies/ModuleString.h"
+#include "job/ModuleString.h"
 
 namespace barhatch {
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <cstring>
 
-#include "symbologies/CharacterClasses.h"
+#include "job/CharacterClasses.h"
 #include "symbologies/CyclicWeights.h"
 #include "symbologies/PatternTables.h"
 

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "symbologies/CharacterClasses.h"
+#include "job/CharacterClasses.h"
 #include "symbologies/PatternTables.h"
 
 namespace barhatch {

@@ -1,6 +1,6 @@
 #include "symbologies/Code93Characters.h"
 
-#include "symbologies/CharacterClasses.h"
+#include "job/CharacterClasses.h"
 #include "symbologies/PatternTables.h"
 
 namespace barhatch {

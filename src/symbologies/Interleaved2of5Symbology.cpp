@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <cstring>
 
-#include "symbologies/CharacterClasses.h"
+#include "job/CharacterClasses.h"
 
 namespace barhatch {
 

@@ -5,7 +5,7 @@
 
 #include <cstddef>
 
-#include "symbologies/ModuleString.h"
+#include "job/ModuleString.h"
 
 namespace barhatch {
 

@@ -55,7 +55,7 @@ class Includes(Copy):
                 self.refuses("src/hatch/Hatcher.cpp", "\n\n", f"\n#include <{header}>\n\n", f"<{header}> has no place")
 
     def test_a_forbidden_header_through_a_header_of_ours(self):
-        self.refuses("src/symbologies/ModuleString.h", "#ifndef", "#include <locale>\n#ifndef", "ModuleString.h: <locale>")
+        self.refuses("src/job/ModuleString.h", "#ifndef", "#include <locale>\n#ifndef", "ModuleString.h: <locale>")
 
     def test_a_forbidden_header_through_the_exported_header(self):
         self.refuses("include/barhatch.h", "#include <stdint.h>", "#include <ctype.h>", "barhatch.h: <ctype.h>")

@@ -1,8 +1,8 @@
 // Character classes by plain comparison. The library reads no locale, and bytes are compared as
 // signed 8-bit values on every compiler (plain char is unsigned on ARM Linux), so bytes of 128 and
 // above lie below '\0'.
-#ifndef BARHATCH_SYMBOLOGIES_CHARACTERCLASSES_H
-#define BARHATCH_SYMBOLOGIES_CHARACTERCLASSES_H
+#ifndef BARHATCH_JOB_CHARACTERCLASSES_H
+#define BARHATCH_JOB_CHARACTERCLASSES_H
 
 namespace barhatch {
 

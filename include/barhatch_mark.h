@@ -1,0 +1,307 @@
+/* barhatch, the mark interface: one job in, one result out.
+ *
+ * A host describes a mark in a record, BarhatchJob, and gets everything about it in another, BarhatchResult: the strokes, or
+ * the status, sentence and position of a refusal.
+ *
+ *   BarhatchJob job = {0};
+ *   BarhatchResult result = {0};
+ *   job.size = sizeof job;
+ *   job.symbology = BARHATCH_CODE_39;
+ *   job.text = "ABC-123";
+ *   job.x_dimension = 0.5;
+ *   job.height = 12.0;
+ *   job.gap = 0.1;
+ *   result.size = sizeof result;
+ *   if (BarhatchMark(&job, &result) != BARHATCH_OK) puts(result.message);
+ *   BarhatchRelease(&result);
+ *
+ * Conventions
+ *  1. Zero every byte of both records, set their size, and then what matters: zero is the sensible default everywhere.
+ *  2. There is no state: no settings, no locale, no globals. Every call may run in a thread of its own.
+ *  3. Lengths are in the host's own unit, x to the right, y upwards. The origin is the lower-left corner of the symbol,
+ *     with BARHATCH_QUIET_INSIDE that of its quiet zone.
+ *  4. Text and job are read during the call only. What a result points to is the library's until BarhatchRelease.
+ *  5. No memory is a status like any other; nothing is leaked then. With allocate and release the host's own functions
+ *     give and take all of it.
+ *  6. Messages, names and sentences are English in ASCII.
+ *
+ * conformance says by what rules a mark is made. BARHATCH_PUBLISHED writes what the published standard of a symbology says
+ * and refuses the rest. BARHATCH_DEVICE writes what the exports of barhatch.h write, every known deviation included; the
+ * result names the deviations that a mark has met. This version makes published marks of all linear symbologies but
+ * Code 128, and device marks of all 23 types and Data Matrix.
+ *
+ * The records grow at their end in later versions: fields are never moved, numbers never used again. A record smaller than
+ * the first version's is refused, of a larger one the bytes that this version does not know must be zero.
+ *
+ * The header is C90, C99, C++98 and C++17. */
+#ifndef BARHATCH_MARK_H
+#define BARHATCH_MARK_H
+
+#include "barhatch.h"
+
+#if defined(_MSC_VER) && _MSC_VER < 1600 /* as in barhatch.h */
+typedef unsigned __int32 uint32_t;
+typedef unsigned __int64 uint64_t;
+#endif
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* job.symbology. 0 to 22 are the types of SetBarcodeType. */
+enum BarhatchSymbology {
+  BARHATCH_CODABAR = 0,            /* start and stop in the text: "A1234B" */
+  BARHATCH_CODE_39 = 1,            /* digits, A to Z, - . $ / + % and space */
+  BARHATCH_CODE_93 = 2,            /* the same characters */
+  BARHATCH_EAN_13 = 3,             /* 12 digits; the check digit is added */
+  BARHATCH_MSI = 4,                /* digits; one check digit, modulo 10, is added */
+  BARHATCH_CODE_128 = 5,           /* the code sets are chosen */
+  BARHATCH_CODE_128_A = 6,         /* begins in set A */
+  BARHATCH_CODE_128_B = 7,         /* begins in set B */
+  BARHATCH_CODE_128_C = 8,         /* begins in set C */
+  BARHATCH_UPC_A = 9,              /* 11 digits; the check digit is added */
+  BARHATCH_UPC_E = 10,             /* number system and 6 digits */
+  BARHATCH_CODE_11 = 11,           /* digits and -; check characters are added */
+  BARHATCH_EAN_8 = 12,             /* 7 digits; the check digit is added */
+  BARHATCH_UPC_A_ADDON_2 = 13,     /* 11 digits and the 2 of the add-on */
+  BARHATCH_UPC_A_ADDON_5 = 14,     /* 11 digits and the 5 of the add-on */
+  BARHATCH_EAN_13_ADDON_2 = 15,    /* 12 and 2 digits */
+  BARHATCH_EAN_13_ADDON_5 = 16,    /* 12 and 5 digits */
+  BARHATCH_EAN_8_ADDON_2 = 17,     /* 7 and 2 digits; outside the standard */
+  BARHATCH_EAN_8_ADDON_5 = 18,     /* 7 and 5 digits; outside the standard */
+  BARHATCH_UPC_E_ADDON_2 = 19,     /* 7 and 2 digits */
+  BARHATCH_UPC_E_ADDON_5 = 20,     /* 7 and 5 digits */
+  BARHATCH_INTERLEAVED_2_OF_5 = 21, /* digits; an odd number of them gets a 0 in front */
+  BARHATCH_CODE_93_FULL = 22,      /* ASCII */
+  BARHATCH_DATA_MATRIX = 100,      /* ECC 200 */
+  BARHATCH_ITF_14 = 101,           /* not in this version */
+  BARHATCH_CODE_39_FULL = 102      /* not in this version */
+};
+
+/* job.conformance */
+enum BarhatchConformance {
+  BARHATCH_PUBLISHED = 0, /* as the published standards say */
+  BARHATCH_DEVICE = 1     /* as the exports of barhatch.h, deviations included */
+};
+
+/* job.input: what text is */
+enum BarhatchInput {
+  BARHATCH_UTF8 = 0,      /* UTF-8, length bytes of it, or up to the NUL */
+  BARHATCH_BYTES = 1,     /* bytes, each one a character */
+  BARHATCH_GS1 = 2,       /* element strings; not in this version */
+  BARHATCH_ESCAPED = 3,   /* not in this version */
+  BARHATCH_UNITS = 4,     /* 16-bit units, as barhatch.h takes them; length counts units */
+  BARHATCH_CODEWORDS = 5  /* not in this version */
+};
+
+/* job.check: 0, the symbology's own check characters, is what this version has */
+enum BarhatchCheck {
+  BARHATCH_CHECK_OWN = 0,
+  BARHATCH_CHECK_NONE = 1,
+  BARHATCH_CHECK_VERIFY = 2,
+  BARHATCH_CHECK_MOD_43 = 3,
+  BARHATCH_CHECK_MOD_16 = 4,
+  BARHATCH_CHECK_ITF_10 = 5,
+  BARHATCH_MSI_10 = 6,
+  BARHATCH_MSI_10_10 = 7,
+  BARHATCH_MSI_11 = 8,
+  BARHATCH_MSI_11_10 = 9,
+  BARHATCH_MSI_NCR_11 = 10,
+  BARHATCH_MSI_NCR_11_10 = 11,
+  BARHATCH_CODE_11_C = 12,
+  BARHATCH_CODE_11_CK = 13
+};
+
+/* job.shape, of a Data Matrix whose size is not asked for; device marks are square unless rows and columns say otherwise */
+enum BarhatchShape {
+  BARHATCH_SQUARE = 0,
+  BARHATCH_RECTANGLE = 1,
+  BARHATCH_ANY_SHAPE = 2,
+  BARHATCH_DMRE = 4 /* the rectangles of ISO/IEC 21471 as well */
+};
+
+/* job.flags */
+enum BarhatchFlag {
+  BARHATCH_QUIET_INSIDE = 1,         /* width and height include the quiet zone, and the origin is its corner */
+  BARHATCH_FNC1_SECOND = 2,          /* Data Matrix: FNC1 in second position */
+  BARHATCH_GS_SEPARATORS = 4,        /* not in this version */
+  BARHATCH_LOOSE_END = 8,            /* not in this version */
+  BARHATCH_INDUSTRY_144 = 16,        /* not in this version; device marks have that order */
+  BARHATCH_PERMIT = 32,              /* write what readers know and the standard leaves out: UPC-E of number system 1,
+                                        add-ons beside EAN-8 */
+  BARHATCH_NO_PROOF = 64,            /* no effect in this version */
+  BARHATCH_MAY_GROW = 128,           /* a Data Matrix may be larger than rows x columns */
+  BARHATCH_MASK = 256,               /* not in this version */
+  BARHATCH_ADD_START_STOP = 512,     /* not in this version */
+  BARHATCH_READER_PROGRAMMING = 1024 /* not in this version */
+};
+
+/* job.pattern: how the elements are filled */
+enum BarhatchPattern {
+  BARHATCH_SCAN_LINES = 0,             /* horizontal lines across the whole symbol (of a matrix, each row) */
+  BARHATCH_VERTICAL_LINES = 1,         /* vertical lines upwards */
+  BARHATCH_ALTERNATING_HORIZONTAL = 2, /* horizontal lines bar by bar, to and fro */
+  BARHATCH_ALTERNATING_VERTICAL = 3,   /* vertical lines, up and down */
+  BARHATCH_SPIRAL = 5,                 /* inwards, in each element */
+  BARHATCH_POINTS = 6                  /* one point at the centre of each element */
+};
+
+/* job.order: 0, the pattern's own, is what this version has */
+enum BarhatchOrder { BARHATCH_ORDER_OWN = 0, BARHATCH_ONE_WAY = 1, BARHATCH_SERPENTINE = 2, BARHATCH_NEAREST = 3 };
+
+/* job.want: what the result is to have. 0 gives everything; otherwise the bits add up. A job that wants no strokes needs
+ * no size, gap or pattern. */
+enum BarhatchWant {
+  BARHATCH_WANT_VALIDATION = 1, /* status, position, message, warnings and deviations: always there */
+  BARHATCH_WANT_MODULES = 2,
+  BARHATCH_WANT_VALUES = 4,
+  BARHATCH_WANT_READING = 8, /* reading and hri */
+  BARHATCH_WANT_STROKES = 16,
+  BARHATCH_WANT_DEVIATIONS = 32 /* the deviations met as text */
+};
+
+/* A mark. The host owns it. */
+typedef struct BarhatchJob {
+  uint32_t size;           /* sizeof(BarhatchJob) */
+  int32_t symbology;       /* BarhatchSymbology */
+  int32_t conformance;     /* BarhatchConformance */
+  int32_t input;           /* BarhatchInput */
+  const void* text;        /* bytes or units; null is the empty text where length is 0 */
+  size_t length;           /* of text in bytes or units; 0: up to its first zero */
+  int32_t envelope;        /* ISO/IEC 15434 around a Data Matrix: 0 none, 5 and 6 as macro headers */
+  int32_t check;           /* BarhatchCheck */
+  int32_t eci;             /* 0 in this version */
+  int32_t rows;            /* of a Data Matrix; 0 x 0 is the smallest */
+  int32_t columns;
+  int32_t shape;           /* BarhatchShape */
+  uint32_t flags;          /* BarhatchFlag, added up */
+  int32_t addon_gap;       /* 0 in this version */
+  int32_t pattern;         /* BarhatchPattern */
+  int32_t profile;         /* 0 in this version */
+  int32_t want;            /* BarhatchWant, added up */
+  int32_t invert;          /* not 0: fill the light elements, and with them the quiet zone */
+  int32_t dots_per_module; /* 0 in this version */
+  int32_t order;           /* BarhatchOrder */
+  double x_dimension;      /* width of one module; set either this or width or, of a matrix, height */
+  double width;            /* of the symbol */
+  double height;           /* of the bars, or of the matrix */
+  double ratio;            /* of a wide element to a narrow one, for symbologies of two widths; 0: 3.0 */
+  double quiet;            /* of the quiet zone, in modules, fractions rounded up; 0 the standard's, below 0 none */
+  double units_per_mm;     /* 0 in this version, and so all down to dot */
+  double gap;              /* pitch of the strokes; BARHATCH_POINTS needs none */
+  double beam_x;
+  double beam_y;
+  double growth_x;
+  double growth_y;
+  double dot;
+  double mark_speed;       /* units per second; with both speeds the result has seconds */
+  double jump_speed;
+  double stroke_delay;     /* seconds for each stroke */
+  double jump_delay;       /* seconds for each jump */
+  double radius;           /* 0 in this version */
+  double tolerance;        /* 0 in this version */
+  void* (*allocate)(void* context, size_t bytes);  /* both or neither; neither: malloc and free */
+  void (*release)(void* context, void* block);
+  void* context;           /* handed to both */
+  void* reserved;          /* null */
+} BarhatchJob;
+
+/* result.status */
+enum BarhatchStatus {
+  BARHATCH_OK = 0,
+  BARHATCH_BAD_RECORD = 1,    /* a record that is no record of this library: null, too small, unknown bytes set */
+  BARHATCH_BAD_OPTION = 2,    /* a number that names nothing, or what this symbology or version does not have */
+  BARHATCH_EMPTY = 3,         /* there is no text */
+  BARHATCH_BAD_CHARACTER = 4, /* position says which */
+  BARHATCH_BAD_LENGTH = 5,
+  BARHATCH_BAD_CHECK = 6,     /* not in this version */
+  BARHATCH_BAD_SYNTAX = 7,    /* start or stop character missing */
+  BARHATCH_UNKNOWN_AI = 8,    /* not in this version */
+  BARHATCH_BAD_AI_DATA = 9,   /* not in this version */
+  BARHATCH_TOO_LONG = 10,     /* for the symbol */
+  BARHATCH_NO_SUCH_SIZE = 11,
+  BARHATCH_NOT_STANDARD = 12, /* see BARHATCH_PERMIT */
+  BARHATCH_BAD_GEOMETRY = 13,
+  BARHATCH_NOTHING_TO_MARK = 14,
+  BARHATCH_NO_MEMORY = 15,
+  BARHATCH_PROOF_FAILED = 16  /* not in this version */
+};
+
+/* result.warnings: bits; message has the sentence of the first one */
+enum BarhatchWarning {
+  BARHATCH_W_LEADING_ZERO = 1,    /* an odd number of digits of Interleaved 2 of 5 got a 0 in front */
+  BARHATCH_W_FEW_DIGITS = 2,      /* fewer than 6 digits of Interleaved 2 of 5: readers may not accept them */
+  BARHATCH_W_ECI = 4,             /* a character above 255 designates an ECI */
+  BARHATCH_W_144 = 8,             /* 144 x 144 in the order of the standard; not in this version */
+  BARHATCH_W_QUIET_ZONE = 16,     /* smaller than the standard's */
+  BARHATCH_W_INVERTED = 32,       /* light elements are filled, but no quiet zone */
+  BARHATCH_W_LOW_BYTE = 64,       /* of a character above 255 the low byte alone is written, as the device does */
+  BARHATCH_W_UNREADABLE = 128,    /* a standard reader reads something else than the text, or nothing */
+  BARHATCH_W_GAP = 256            /* the gap is wider than the narrowest element: it may get no stroke */
+};
+
+/* result.kind */
+enum BarhatchKind {
+  BARHATCH_SEGMENTS = 0, /* four doubles each: from x, y to x, y */
+  BARHATCH_DOTS = 2      /* two doubles each: x, y */
+};
+
+/* One module of result.modules, or one element of a linear symbol. */
+enum BarhatchModule {
+  BARHATCH_DARK = 1, /* set: dark */
+  BARHATCH_WIDE = 2  /* set: ratio modules wide, in linear symbologies of two widths */
+};
+
+/* What became of a job. The host owns the record; the library owns what it points to, until BarhatchRelease. */
+typedef struct BarhatchResult {
+  uint32_t size;             /* sizeof(BarhatchResult), set by the host */
+  int32_t status;            /* BarhatchStatus */
+  uint32_t warnings;         /* BarhatchWarning, added up */
+  int32_t position;          /* of the offending bytes (or units) of text, from 1; 0 where there are none */
+  int32_t extent;            /* how many they are */
+  int32_t kind;              /* BarhatchKind */
+  int32_t rows;              /* of modules; 1 for a linear symbol */
+  int32_t columns;           /* modules of a row, or elements of a linear symbol, without quiet zone */
+  int32_t codewords;         /* of a Data Matrix: data codewords of the text, pads not among them */
+  int32_t capacity;          /* of a Data Matrix: data codewords that the symbol holds */
+  char message[160];         /* a sentence; with status 0 that of the first warning, or empty */
+  size_t strokes_count;      /* segments or dots */
+  const double* strokes;     /* in marking order */
+  const uint8_t* modules;    /* rows x columns of BarhatchModule, row by row from the top */
+  const uint8_t* values;     /* codewords with pads and error correction, or symbol character values */
+  size_t values_count;
+  const char* hri;           /* text for people, to stand beside a linear symbol; null where there is none */
+  const char* reading;       /* the bytes that a standard reader reports, with a NUL behind them; null: it reads nothing */
+  size_t reading_length;     /* bytes of reading without that NUL */
+  const char* name;          /* of the symbology; also with a refusal, null where it is unknown */
+  const char* accepts;       /* the characters that it takes, in words */
+  const char* deviations_met; /* a line for each: id, what was done, what a standard reader sees */
+  void* block;               /* the library's */
+  double x_dimension;        /* width of one module */
+  double symbol[4];          /* left, bottom, right, top without quiet zone */
+  double total[4];           /* left, bottom, right, top with quiet zone */
+  double mark_length;        /* of all strokes together */
+  double jump_length;        /* from stroke to stroke */
+  double narrowest;          /* width of the narrowest element */
+  double seconds;            /* 0 without speeds */
+  uint64_t deviations;       /* met: bit n is row n, from 0, of the register in docs/deviations.md */
+} BarhatchResult;
+
+/* BarhatchMark: makes the mark of a job.
+ *   job     read, never written
+ *   result  written, also when the mark is refused; what it pointed to before is not released
+ * Returns: result->status. Fails: with BAD_RECORD for a null record (a null result is written to by nobody) */
+BARHATCH_API int32_t BarhatchMark(const BarhatchJob* job, BarhatchResult* result);
+
+/* BarhatchRelease: gives back what a result points to, and clears those fields. Null and a result that was released
+ * before are allowed. The status, the message and all numbers stay. */
+BARHATCH_API void BarhatchRelease(BarhatchResult* result);
+
+/* BarhatchVersion: BARHATCH_VERSION of the library, which may be newer than that of the header. */
+BARHATCH_API const char* BarhatchVersion(void);
+
+#ifdef __cplusplus
+} /* extern "C" */
+#endif
+
+#endif /* BARHATCH_MARK_H */

@@ -1,0 +1,38 @@
+// Why a job was refused, before anybody has put it into words.
+#ifndef BARHATCH_JOB_REFUSAL_H
+#define BARHATCH_JOB_REFUSAL_H
+
+#include <cstdint>
+
+namespace barhatch {
+
+enum class Reason : std::uint8_t {
+  kNone,                // not refused
+  kOption,              // a number that names nothing; figure: that number
+  kEmpty,               // text of no characters
+  kCharacter,           // position: of a character that the symbology lacks; figure: its code
+  kLength,              // figure: the characters there are
+  kNoStart,             // position: where a start character should stand
+  kNoStop,              // position: where a stop character should stand
+  kNotStandard,         // a symbol that the standard leaves out
+  kTooManyCodewords,    // figure: the codewords of the text, as far as they were counted
+  kSizeTooSmall,        // figure: the codewords of the text
+  kNoSuchSize,          // figure: the codewords of the text
+  kNoPermissionToGrow,  // figure: the codewords of the text; they need more than was asked for
+  kGeometry,            // sizes that make no sense
+  kNothingToMark,
+  kTooManyStrokes,  // more than a fill may have
+  kNoMemory,
+};
+
+struct Refusal {
+  Reason reason = Reason::kNone;
+  std::int32_t position = -1;  // of a unit of the text, from 0; -1 for none
+  std::int32_t figure = 0;
+
+  constexpr bool IsRefused() const { return reason != Reason::kNone; }
+};
+
+}  // namespace barhatch
+
+#endif
