@@ -112,27 +112,67 @@ class Deviations(Copy):
 
 
 class Exports(unittest.TestCase):
-    def check(self, source, names):
-        with tempfile.TemporaryDirectory() as folder:
-            folder = Path(folder)
-            (folder / "library.c").write_text(source, encoding="utf-8")
-            (folder / "names").write_text("".join(name + "\n" for name in names), encoding="utf-8")
-            built = run("cc", "-shared", "-fPIC", "-nostdlib", folder / "library.c", "-o", folder / "library.so")
-            self.assertEqual(built.returncode, 0, built.stderr)
-            return run(ROOT / "scripts/check-exports", folder / "library.so", folder / "names")
+    """Libraries in C with a version script of their own; the list has a node and a name in each line."""
+    LISTED = ("OLD_1 a", "NEW_1 b")
+
+    def setUp(self):
+        folder = tempfile.TemporaryDirectory()
+        self.addCleanup(folder.cleanup)
+        self.folder = Path(folder.name)
+
+    def build(self, place, names, *options):
+        """The library of the names in a folder of its own, which every build calls the same."""
+        (self.folder / place).mkdir()
+        source, library = self.folder / "library.c", self.folder / place / "library.so"
+        source.write_text("".join(f"int {name}(void) {{ return 7; }}\n" for name in names), encoding="utf-8")
+        built = run("cc", "-shared", "-fPIC", "-nostdlib", "-Wl,-soname,library.so", *options, source, "-o", library)
+        self.assertEqual(built.returncode, 0, built.stderr)
+        return library
+
+    def check(self, nodes):
+        script, names = self.folder / "script", self.folder / "names"
+        script.write_text("".join(f"{node} {{ {' '.join(f'{name};' for name in of)} }};\n" for node, of in nodes.items()),
+                          encoding="utf-8")
+        names.write_text("".join(line + "\n" for line in self.LISTED), encoding="utf-8")
+        library = self.build("checked", (name for of in nodes.values() for name in of), f"-Wl,--version-script={script}")
+        return run(ROOT / "scripts/check-exports", library, names)
+
+    def refuses(self, nodes, *complaints):
+        result = self.check(nodes)
+        self.assertEqual(result.returncode, 1)
+        for complaint in complaints:
+            self.assertIn(complaint, result.stdout)
 
     def test_the_listed_names_pass(self):
-        self.assertEqual(self.check("void b(void) {} void a(void) {} static void c(void) {}", ("a", "b")).returncode, 0)
+        self.assertEqual(self.check({"OLD_1": "a", "NEW_1": "b"}).returncode, 0)
 
     def test_one_name_more(self):
-        result = self.check("void a(void) {} void b(void) {}", ("a",))
-        self.assertEqual(result.returncode, 1)
-        self.assertIn("> b", result.stdout)
+        self.refuses({"OLD_1": "ac", "NEW_1": "b"}, "> OLD_1 c")
 
     def test_one_name_less(self):
-        result = self.check("void a(void) {}", ("a", "b"))
+        self.refuses({"OLD_1": "a", "NEW_1": ""}, "< NEW_1 b")
+
+    def test_a_name_in_the_wrong_node(self):
+        self.refuses({"OLD_1": "ab", "NEW_1": ""}, "< NEW_1 b", "> OLD_1 b")
+
+    def test_names_without_a_node(self):
+        library, names = self.build("checked", "ab"), self.folder / "names"
+        names.write_text("OLD_1 a\nOLD_1 b\n", encoding="utf-8")
+        result = run(ROOT / "scripts/check-exports", library, names)
         self.assertEqual(result.returncode, 1)
-        self.assertIn("< b", result.stdout)
+        self.assertIn("> - a", result.stdout)
+
+    def test_a_host_that_was_linked_before_there_were_nodes_is_served(self):
+        names = [line.split()[1] for line in (ROOT / "tests/abi/exported-names.txt").read_text(encoding="utf-8").splitlines()]
+        before = self.build("before", names)
+        now = self.build("now", names, f"-Wl,--version-script={ROOT / 'src/api/barhatch.map'}")
+        host = self.folder / "host"
+        (self.folder / "host.c").write_text(f"int {names[0]}(void); int main(void) {{ return {names[0]}(); }}\n",
+                                            encoding="utf-8")
+        self.assertEqual(run("cc", self.folder / "host.c", before, "-o", host).returncode, 0)
+        for library in (before, now):
+            served = run(host, env={"LD_LIBRARY_PATH": str(library.parent), "LD_BIND_NOW": "1"})
+            self.assertEqual((served.returncode, served.stderr), (7, ""))
 
 
 @unittest.skipUnless(shutil.which("cppcheck"), "cppcheck is not installed")
