@@ -111,6 +111,37 @@ class Deviations(Copy):
         self.refuses("there is no test DataMatrixDeviations.DDM5")
 
 
+class Functions(Copy):
+    NAME = "src/hatch/Hatcher.cpp"
+
+    def add(self, functions):
+        path = self.root / self.NAME
+        path.write_text(path.read_text(encoding="utf-8") + functions, encoding="utf-8")
+
+    def test_passes_the_tree(self):
+        self.expect("check-functions")
+
+    def test_sixty_lines_pass(self):
+        self.add("int Long(int a) {\n" + "  ++a;\n" * 58 + "}\n")
+        self.expect("check-functions")
+
+    def test_sixty_one_lines(self):
+        self.add("int Long(int a) {\n" + "  ++a;\n" * 59 + "}\n")
+        self.expect("check-functions", self.NAME + r":\d+: 61 lines")
+
+    def test_a_brace_in_a_text_or_a_comment_ends_nothing(self):
+        self.add("int Long(int a) {\n" + "  F(\"}\");  // }\n" * 59 + "}\n")
+        self.expect("check-functions", "61 lines")
+
+    def test_a_signature_of_two_lines_counts(self):
+        self.add("\nint Long(int a,\n         int b) {\n" + "  ++a;\n" * 58 + "}\n")
+        self.expect("check-functions", "61 lines")
+
+    def test_many_of_ten_lines(self):
+        self.add("".join(f"void F{i}(int a) {{\n" + "  ++a;\n" * 8 + "}\n" for i in range(600)))
+        self.expect("check-functions", "a median of 10 lines")
+
+
 class Exports(unittest.TestCase):
     """Libraries in C with a version script of their own; the list has a node and a name in each line."""
     LISTED = ("OLD_1 a", "NEW_1 b")
