@@ -67,18 +67,62 @@ class Includes(Copy):
         self.change("src/hatch/Hatcher.cpp", "\n\n", '\n// We never throw.\n[[maybe_unused]] auto t = "throw /*";\n')
         self.expect("check-includes")
 
-    def test_an_encoder_in_the_hatcher(self):
-        self.refuses("src/hatch/Hatcher.cpp", '#include "hatch/BuildRects.h"', '#include "symbologies/SymbologyFactory.h"',
-                     "not for src/hatch")
+    def includes(self, name, header, complaint=None):
+        path = self.root / name
+        path.write_text(f'#include "{header}"\n' + path.read_text(encoding="utf-8"), encoding="utf-8")
+        self.expect("check-includes", complaint and f'{name}: "{header}" {complaint}')
 
-    def test_the_settings_in_a_header(self):
-        self.refuses("src/hatch/Hatcher.h", "#ifndef", '#include "api/BarcodeSettings.h"\n#ifndef', "not for src/hatch")
+    def test_arrows_that_run_up_or_to_a_neighbour(self):
+        for name, header in (("src/job/Job.h", "symbologies/SymbologyTable.h"), ("src/job/Memory.h", "barhatch.h"),
+                             ("src/hatch/Hatcher.cpp", "datamatrix/DataMatrix.h"),
+                             ("src/hatch/HatchGrid.h", "symbologies/SymbologyTable.h"),
+                             ("src/hatch/HatchGrid.h", "mark/Mark.h"), ("src/datamatrix/SymbolGrid.cpp", "hatch/Hatch.h"),
+                             ("src/symbologies/CyclicWeights.h", "api/Ownership.h"),
+                             ("src/symbologies/CyclicWeights.h", "barhatch.h"),
+                             ("src/symbologies/Symbology.cpp", "datamatrix/DataMatrix.h")):
+            with self.subTest(name + " " + header):
+                self.setUp()
+                self.includes(name, header, "is not for " + name.rpartition("/")[0])
 
-    def test_a_leaf_that_includes(self):
-        self.refuses("src/api/BarcodeSettings.h", "#ifndef", '#include "api/DataText.h"\n#ifndef', "a leaf includes")
+    def mark(self, header, complaint=None):
+        (self.root / "src/mark").mkdir(exist_ok=True)
+        (self.root / "src/mark/Some.cpp").write_text("", encoding="utf-8")
+        self.includes("src/mark/Some.cpp", header, complaint)
+
+    def test_mark_opens_the_doors_of_the_floor_below(self):
+        for header in ("hatch/Hatch.h", "symbologies/TextRules.h", "datamatrix/DataMatrix.h", "barhatch_mark.h", "job/Job.h"):
+            self.mark(header)
+
+    def test_mark_opens_nothing_else(self):
+        for header in ("hatch/HatchGrid.h", "symbologies/PatternTables.h", "datamatrix/SymbolGrid.h", "api/Ownership.h",
+                       "api/BarcodeSettings.h", "barhatch.h"):
+            with self.subTest(header):
+                self.mark(header, "is not for src/mark")
+
+    def test_the_exports_open_no_door_of_the_floor_below_mark(self):
+        for header in ("hatch/Hatch.h", "symbologies/SymbologyTable.h", "datamatrix/DataMatrix.h", "barhatch_mark.h"):
+            with self.subTest(header):
+                self.setUp()
+                self.includes("src/api/LinearExports.cpp", header, "is not for src/api")
+
+    def test_the_exports_rest_on_mark_and_job(self):
+        for header in ("mark/Mark.h", "job/Job.h", "barhatch.h"):
+            self.includes("src/api/LinearExports.cpp", header)
+
+    def test_a_source_that_stands_in_no_room(self):
+        (self.root / "src/loose").mkdir()
+        (self.root / "src/loose/Some.cpp").write_text("", encoding="utf-8")
+        self.expect("check-includes", "src/loose/Some.cpp: stands in no room")
+
+    def test_a_door_that_leads_up(self):
+        self.refuses("scripts/check-includes", '"src/hatch": set()', '"src/hatch": {"mark/Mark.h"}',
+                     "the door mark/Mark.h is not below src/hatch")
 
     def test_an_oracle_that_shares_a_table(self):
-        self.refuses("tests/support/MsiReader.cpp", "#include", '#include "symbologies/PatternTables.h"\n#include', "an oracle shares")
+        self.includes("tests/support/MsiReader.cpp", "symbologies/PatternTables.h", "is not for tests/support")
+
+    def test_the_settings_are_for_the_exports_alone(self):
+        self.includes("tests/support/MsiReader.cpp", "api/BarcodeSettings.h", "is not for tests/support")
 
 
 class Deviations(Copy):
