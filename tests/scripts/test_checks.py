@@ -146,9 +146,46 @@ class Deviations(Copy):
         self.refuses("D-DM-5: two rows")
 
     def test_a_mark_is_missing(self):
-        for path in (self.root / "src").rglob("*.*"):
-            path.write_text(path.read_text(encoding="utf-8").replace("D-DM-7", "that"), encoding="utf-8")
+        self.unmark("D-DM-7")
         self.refuses("D-DM-7: no mark")
+
+    def unmark(self, deviation):
+        for room in ("api", "datamatrix", "hatch", "symbologies"):
+            for path in (self.root / "src" / room).rglob("*.*"):
+                path.write_text(path.read_text(encoding="utf-8").replace(deviation, "that"), encoding="utf-8")
+
+    def test_a_mark_as_an_enumerator(self):
+        self.unmark("D-DM-7")
+        self.unmark("kDDM_7")
+        self.change("src/datamatrix/Encodation.cpp", "\n\n", "\n\nbool IsLeft(Conformance& how) { return how.Deviates(kDDM_7); }\n")
+        self.expect("check-deviations")
+
+    def test_an_enumerator_is_missing(self):
+        self.change("src/job/Deviations.h", "  kDDM_7,\n", "")
+        self.refuses("the enumeration and the rows differ in \\['D-DM-7'\\]")
+
+    def test_enumerators_in_another_sequence(self):
+        self.change("src/job/Deviations.h", "  kDDM_7,\n  kDDM_8,\n", "  kDDM_8,\n  kDDM_7,\n")
+        self.refuses("the enumeration and the rows differ in the order")
+
+    def test_a_word_of_the_page_that_is_not_in_the_table(self):
+        page = (self.root / self.REGISTER).read_text(encoding="utf-8")
+        self.change(self.REGISTER, "| D-39-2 | '/' is written with", "| D-39-2 | '/' is drawn with")
+        self.refuses("D-39-2: the page does not say what the table says")
+        self.assertEqual(run(self.root / "scripts/check-deviations", "--write").returncode, 0)
+        self.assertEqual((self.root / self.REGISTER).read_text(encoding="utf-8"), page)
+
+    def test_what_the_page_has_to_escape(self):
+        self.change("src/mark/DeviationTable.cpp", "'/' is written with", "'|' or '\\\\', \\\"so\\\", is written \"\n \"with")
+        self.refuses("D-39-2: the page")
+        self.assertEqual(run(self.root / "scripts/check-deviations", "--write").returncode, 0)
+        self.assertIn("| D-39-2 | '\\|' or '\\\\', \"so\", is written with",
+                      (self.root / self.REGISTER).read_text(encoding="utf-8"))
+        self.expect("check-deviations")
+
+    def test_a_row_that_the_table_has_not(self):
+        self.change("src/mark/DeviationTable.cpp", '"D-39-2"', '"D-39-9"')
+        self.refuses("other ids than the rows of the page")
 
     def test_a_test_is_missing(self):
         self.change("tests/datamatrix/EncodationDeviationsTest.cpp", "DataMatrixDeviations, DDM5", "DataMatrixDeviations, DDM6")
