@@ -5,7 +5,7 @@ and what the compiler alone evaluates (static_assert and the functions that only
 """
 import re
 
-from mutation_rules import Mutant
+from mutation_sources import NUMBER, Mutant, bodies, closing, next_numbers, product, visible
 
 BINARY = {
     "<": ("<=",), "<=": ("<",), ">": (">=",), ">=": (">",), "==": ("!=",), "!=": ("==",),
@@ -20,63 +20,10 @@ CONDITION = re.compile(r"\b(?:if|while) \(")
 LOOP = re.compile(r"\bfor \([^;:()]*;([^;]*);")
 CHOICE = re.compile(r"\s\?\s")
 BEFORE_CONDITION = re.compile(r"(?:\breturn|[^=!<>]=|[,;?]|[^:]:)\s$|[({\[]$")
-BODY = re.compile(r"\)(?: const)?(?: noexcept)?(?: override)? \{|\)\s+: [^;]*?[)}] \{")
-NUMBER = re.compile(r"(?<![\w.'\x00])(0x[0-9A-F]+|\d+u|\d+(?:\.\d+)?)(?![\w.'\x00])")
 ANSWER = re.compile(r"\breturn (true|false);")
 # A call whose result nobody wants, or an assignment: one line that no type begins.
 STATEMENT = re.compile(r"^ +((?!(?:return|case|using|delete|default)\b)[\w.:\[\]>*()-]+(?:<\w+>)?"
                        r"(?:\(.*\)| [-+*/|&^]?= .*));$", re.MULTILINE)
-HIDDEN = re.compile(r"//[^\n]*|/\*.*?\*/|\"(?:\\.|[^\"\\\n])*\"|'(?:\\.|[^'\\\n])'|^ *#[^\n]*(?:\\\n[^\n]*)*",
-                    re.DOTALL | re.MULTILINE)
-
-
-def blank(text, start, end):
-    return text[:start] + re.sub(r"[^\n]", "\x00", text[start:end]) + text[end:]
-
-
-def without_hidden(text):
-    for found in HIDDEN.finditer(text):
-        text = blank(text, *found.span())
-    return text
-
-
-def closing(text, start, pair="{}"):
-    depth = 0
-    for at in range(start, len(text)):
-        depth += {pair[0]: 1, pair[1]: -1}.get(text[at], 0)
-        if depth == 0 and text[at] == pair[1]:
-            return at + 1
-    raise LookupError("no closing " + pair[1])
-
-
-def without_proofs(text):
-    """Blanks static assertions and the constexpr functions that nothing else uses."""
-    assertions = [(m.start(), closing(text, m.end() - 1, "()")) for m in re.finditer(r"\bstatic_assert\(", text)]
-    functions = {}
-    for found in re.finditer(r"^constexpr [\w:]+[&*]? (\w+)\(", text, re.MULTILINE):
-        body = text.find("{", found.end())
-        if body >= 0:
-            functions[found[1]] = (found.start(), closing(text, body))
-    proofs = list(assertions)
-    grown = True
-    while grown:
-        grown = False
-        for name, span in list(functions.items()):
-            uses = [m.start() for m in re.finditer(rf"\b{name}\b", text)]
-            outside = [at for at in uses if not any(a <= at < b for a, b in proofs + [span])]
-            if not outside:
-                proofs.append(functions.pop(name))
-                grown = True
-    for start, end in proofs:
-        text = blank(text, start, end)
-    return text
-
-
-def asserted(text):
-    """assert() states what holds; a weaker statement holds as well."""
-    for found in list(re.finditer(r"\bassert\(", text)):
-        text = blank(text, found.start(), closing(text, found.end() - 1, "()"))
-    return text
 
 
 def changes(text):
@@ -95,15 +42,6 @@ def changes(text):
         yield found.start(1), found.end(1), "answer", "false" if found[1] == "true" else "true"
 
 
-def bodies(text):
-    """Where functions stand, the outermost ones."""
-    end = 0
-    for found in BODY.finditer(text):
-        if found.end() > end:
-            end = closing(text, found.end() - 1)
-            yield found.start(), end
-
-
 def condition_before(text, end):
     """The condition whose question mark stands at the end."""
     begin, depth = end, 0
@@ -111,14 +49,6 @@ def condition_before(text, end):
         begin -= 1
         depth += {")": 1, "]": 1, "(": -1, "[": -1}.get(text[begin], 0)
     return begin + len(text[begin:end]) - len(text[begin:end].lstrip()), begin + len(text[begin:end].rstrip())
-
-
-def next_numbers(number):
-    if "." in number:
-        return (str(float(number) + 1.0), str(float(number) / 2 if float(number) else -1.0))
-    value, suffix = int(number.rstrip("u"), 0), "u" if number.endswith("u") else ""
-    written = "0x%X" if number.startswith("0x") else "%d"
-    return tuple(written % after + suffix for after in (value + 1, value - 1) if after >= 0)
 
 
 def numbers(text):
@@ -142,9 +72,6 @@ def left_out(text):
     for found in STATEMENT.finditer(text):
         yield found.start(1), found.end(1), "statement", ""
 
-
-# Offsets for the compiler alone, and what only the device's loader calls.
-NOT_PRODUCT = {"src/api/RecordLayout.cpp"}
 
 # Mutants that no test can tell from the original: file, what the line says, what it says then, the reason.
 EQUIVALENT = (
@@ -331,18 +258,13 @@ def reason_it_is_equivalent(mutant, text):
 
 
 def mutants_by(rules, root):
-    for path in sorted(root.glob("src/**/*.cpp")) + sorted(root.glob("src/**/*.h")):
-        name = path.relative_to(root).as_posix()
-        if name in NOT_PRODUCT:
-            continue
-        text = path.read_text(encoding="utf-8")
-        visible = asserted(without_proofs(without_hidden(text)))
-        found = [change for rule in rules if rule != left_out or path.suffix == ".cpp" for change in rule(visible)]
+    for name, text in product(root):
+        seen = visible(text)
+        found = [change for rule in rules if rule != left_out or name.endswith(".cpp") for change in rule(seen)]
         for start, end, what, after in sorted(found):
             if "\x00" in after:
                 after = "(!" + text[start:end] + ")"
-            line = text.count("\n", 0, start) + 1
-            yield Mutant(name, start, end, line, what, text[start:end], after, ())
+            yield Mutant(name, start, end, text.count("\n", 0, start) + 1, what, text[start:end], after)
 
 
 def all_mutants(root):

@@ -336,9 +336,53 @@ class Mutation(Copy):
     def test_passes_the_tree(self):
         self.assertEqual(self.list_of().returncode, 0)
 
-    def test_a_table_that_is_gone(self):
-        self.change("src/symbologies/Code11Symbology.cpp", "kCode11Characters[]", "kCharacters[]")
-        self.assertNotEqual(self.list_of().returncode, 0)
+    def found_in(self, code):
+        """What is listed of a header that holds the code, without its name and lines."""
+        (self.root / "src/job/New.h").write_text(code, encoding="utf-8")
+        listed = run(self.root / "scripts/mutate", "--list", "--only", "New.h").stdout.splitlines()
+        return [line.split(" ", 1)[1] for line in listed if "New.h" in line]
+
+    def test_a_table_is_found_by_itself(self):
+        self.assertEqual(self.found_in("""
+enum class Shade { kDark, kLight };
+struct Row { char name; char modules[4]; Shade shade; };
+constexpr Row kRows[] = {
+    // name
+    {'A', "001", Shade::kDark},  // a comment, {'C'}
+    {'\\0', "110", Shade::kLight},
+};
+"""), ["kRows row 0: A -> B", "kRows rows 0 and 1: change places", "kRows row 0: 001 -> 010", "kRows row 0: 001 -> 011",
+       "kRows row 0: Shade::kDark -> Shade::kLight", r"kRows row 1: \0 -> \x01", "kRows row 1: 110 -> 101",
+       "kRows row 1: 110 -> 111", "kRows row 1: Shade::kLight -> Shade::kDark"])
+
+    def test_a_table_of_plain_numbers_and_one_of_widths(self):
+        self.assertEqual(self.found_in('constexpr int kLimits[3] = {0x10, 7,\n    2.5};\n'
+                                       'constexpr std::array<Row, 1> kWidths = {{\n    "212222"}};\n'),
+                         ["kLimits row 0: 0x10 -> 0x11", "kLimits row 0: 0x10 -> 0xF", "kLimits rows 0 and 1: change places",
+                          "kLimits row 1: 7 -> 6", "kLimits row 1: 7 -> 8", "kLimits row 2: 2.5 -> 1.25",
+                          "kLimits row 2: 2.5 -> 3.5", "kWidths row 0: 212222 -> 222122", "kWidths row 0: 212222 -> 312222"])
+
+    def test_constants_and_first_values(self):
+        self.assertEqual(self.found_in('constexpr int kMost =\n    13 + sizeof(int[3]);\n'
+                                       'inline constexpr char kGuard[] = "101";\n'
+                                       'struct Sum { int sum = 4; bool isWhole = true; };\n'),
+                         ["kMost: 13 -> 12", "kMost: 13 -> 14", "kGuard: 101 -> 001", "kGuard: 101 -> 100",
+                          "kGuard: 101 -> 111", "sum: 4 -> 3", "sum: 4 -> 5", "isWhole: true -> false"])
+
+    def test_texts_and_enumerators_in_functions(self):
+        self.assertEqual(self.found_in('enum class Way { kUp, kDown };\nWay Of(char c) {\n'
+                                       '  assert(c != 0 && "why");\n  switch (F(c, "ab")) { case Way::kUp: break; }\n'
+                                       "  return c == 'x' ? Way::kUp : G(7);\n}\n"),
+                         ["text: ab -> a", "text: ab -> ab!", "text: ab -> b", "character: x -> y", "value: Way::kUp -> Way::kDown"])
+
+    def test_a_proof_is_no_product(self):
+        self.assertEqual(self.found_in('constexpr bool Holds() { return F("01"); }\nstatic_assert(Holds(), "11");\n'), [])
+
+    def test_a_reason_whose_cell_is_gone(self):
+        self.change("src/datamatrix/Encodation.cpp", "kLatchCodewords[]", "kLatches[]")
+        result = self.list_of()
+        self.assertEqual(result.returncode, 1, result.stderr)
+        self.assertIn("outlived its code: Encodation.cpp kLatchCodewords", result.stdout)
 
     def test_a_reason_whose_code_is_gone(self):
         self.change("src/hatch/HatchGrid.cpp", "value < 0.0", "value <= 0.0")
