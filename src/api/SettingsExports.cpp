@@ -4,7 +4,7 @@
 #include "api/BarcodeSettings.h"
 #include "api/DataText.h"
 #include "barhatch.h"
-#include "symbologies/SymbologyFactory.h"
+#include "api/SymbologyFactory.h"
 
 using barhatch::CurrentSettings;
 

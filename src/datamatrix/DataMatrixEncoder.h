@@ -13,7 +13,7 @@
 #include "barhatch.h"
 #include "datamatrix/CodewordBuffer.h"
 #include "datamatrix/SymbolSizes.h"
-#include "symbologies/Symbology.h"
+#include "api/Symbology.h"
 
 namespace barhatch {
 

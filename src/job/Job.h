@@ -17,6 +17,12 @@ struct TextUnits {
   std::size_t length;
 };
 
+// Text of a linear symbol, one byte a character; a NUL stands behind it.
+struct Characters {
+  const char* text;
+  std::size_t length;
+};
+
 // Light modules that a symbol gets on its sides. 1 and more: so many on each side.
 constexpr std::int32_t kNoQuietZone = -1;
 constexpr std::int32_t kStandardQuietZone = 0;  // those that the symbology asks for
@@ -45,6 +51,14 @@ struct SymbolJob {
   std::int32_t quietModules;  // or kNoQuietZone, kStandardQuietZone
   SizeRequest size;           // of a Data Matrix
   Header header;              // of a Data Matrix
+};
+
+// A linear symbol: likewise.
+struct LinearJob {
+  std::int32_t symbology;  // 0..22
+  char* text;              // with a NUL behind it; may be written, where a check shortens the text
+  std::size_t length;
+  std::int32_t quietModules;  // or kNoQuietZone, kStandardQuietZone
 };
 
 enum class FilledElements : std::uint8_t { kDark, kLight };  // kLight: the image is inverted

@@ -2,6 +2,7 @@
 
 #include <cassert>
 
+#include "symbologies/LetterTables.h"
 #include "symbologies/PatternTables.h"
 
 namespace barhatch {
@@ -168,22 +169,18 @@ static_assert(RowsAreInValueOrder(), "the value is the index of its row");
 static_assert(RowsHaveElevenModulesAndEvenBars(), "11 modules, an even number of them dark");
 static_assert(AllDistinct(kCode128Characters, &Code128Character::widths), "107 patterns");
 
-struct Code128Modules {
-  char digits[kCode128CharacterCount][kCode128CharacterModules + 1];
-};
-
-constexpr Code128Modules ExpandWidths() {
-  Code128Modules modules{};
+constexpr LetterTable<kCode128CharacterCount, kCode128CharacterModules> ExpandWidths() {
+  LetterTable<kCode128CharacterCount, kCode128CharacterModules> letters{};
   for (int value = 0; value < kCode128CharacterCount; ++value) {
     int module = 0;
     for (int i = 0; i < 6; ++i) {
       const int end = module + WidthAt(kCode128Characters[value], i);
-      while (module < end) modules.digits[value][module++] = i % 2 == 0 ? '1' : '0';
+      while (module < end) letters.rows[value][module++] = ModuleLetter(i % 2 == 0 ? '1' : '0');
     }
   }
-  return modules;
+  return letters;
 }
-constexpr Code128Modules kCode128Modules = ExpandWidths();
+constexpr auto kLetters = ExpandWidths();
 
 constexpr char kTerminationBar[kCode128TerminationBarModules + 1] = "11";
 
@@ -195,14 +192,18 @@ const char* Code128Widths(int value) {
   return value >= 0 && value < kCode128CharacterCount ? kCode128Characters[value].widths : nullptr;
 }
 
-void AppendCode128Character(ModuleStringBuilder& builder, int value) {
-  assert(value >= 0 && value < kCode128CharacterCount);
-  builder.AppendModules<kCode128CharacterModules>(kCode128Modules.digits[value]);
+void AppendCode128Characters(SymbolWriter& out, const std::uint8_t* values, int count) {
+  char* at = out.Room(static_cast<std::size_t>(count * kCode128CharacterModules));
+  if (at == nullptr) return;
+  for (int i = 0; i < count; ++i) {
+    assert(values[i] < kCode128CharacterCount);
+    at = CopyLetters(at, kLetters.rows[values[i]]);
+  }
 }
 
-void AppendCode128Stop(ModuleStringBuilder& builder) {
-  AppendCode128Character(builder, kCode128Stop);
-  builder.AppendModules(kTerminationBar);
+void AppendCode128Stop(SymbolWriter& out) {
+  out.AppendLetters(kLetters.rows[kCode128Stop]);
+  out.AppendModules(kTerminationBar);
 }
 
 std::uint8_t Code128CheckValue(const std::uint8_t* values, int count) {

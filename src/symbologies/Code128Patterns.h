@@ -10,7 +10,7 @@
 
 #include <cstdint>
 
-#include "symbologies/ModuleStringBuilder.h"
+#include "symbologies/SymbolWriter.h"
 
 namespace barhatch {
 
@@ -30,11 +30,11 @@ constexpr int kCode128TerminationBarModules = 2;
 // character comes without its termination bar. Null for a value outside 0..106.
 const char* Code128Widths(int value);
 
-// Appends the 11 modules of a value. REQUIRES: value in 0..106.
-void AppendCode128Character(ModuleStringBuilder& builder, int value);
+// Appends the 11 modules of each value. REQUIRES: values in 0..106.
+void AppendCode128Characters(SymbolWriter& out, const std::uint8_t* values, int count);
 
 // Appends the stop character and the termination bar, 13 modules.
-void AppendCode128Stop(ModuleStringBuilder& builder);
+void AppendCode128Stop(SymbolWriter& out);
 
 // The check character of the values from the start character to the last data or switch value: the
 // start counts once, each later value as often as its position says, modulo 103.

@@ -1,6 +1,7 @@
 #include "symbologies/Code93Characters.h"
 
 #include "job/CharacterClasses.h"
+#include "symbologies/LetterTables.h"
 #include "symbologies/PatternTables.h"
 
 namespace barhatch {
@@ -66,6 +67,7 @@ constexpr Code93Character kCode93Characters[] = {
     {"*", "101011110"},  // 47
 };
 // clang-format on
+constexpr auto kLetters = ModuleLetters(kCode93Characters, &Code93Character::modules);
 constexpr int kCode93CharacterCount = sizeof(kCode93Characters) / sizeof(kCode93Characters[0]);
 
 constexpr bool ThreeBarsAndThreeSpacesEach() {
@@ -106,10 +108,12 @@ struct ShiftRange {
 // itself.
 // clang-format off
 constexpr ShiftRange kShiftRanges[] = {
+    {'\x00', '\x00', '%', 'U'},  // NUL, (%)U
     {'\x01', '\x1A', '$', 'A'},  // SOH to SUB, ($)A to ($)Z
     {'\x1B', '\x1F', '%', 'A'},  // ESC to US, (%)A to (%)E
-    {'!', ',', '/', 'A'},        // (/)A to (/)L; D-93-1: published '$', '%' and '+' as themselves
-    {'/', '/', '/', 'O'},        // (/)O; D-93-1: published '/' as itself
+    {'!', '#', '/', 'A'},        // (/)A to (/)C
+    {'&', '*', '/', 'F'},        // (/)F to (/)J
+    {',', ',', '/', 'L'},        // (/)L
     {':', ':', '/', 'Z'},        // (/)Z
     {';', '?', '%', 'F'},        // (%)F to (%)J
     {'@', '@', '%', 'V'},        // (%)V
@@ -143,22 +147,42 @@ constexpr AsciiExpansions ExpandAscii() {
 constexpr AsciiExpansions kAscii = ExpandAscii();
 constexpr Code93Expansion kNoCharacter = {1, {kCode93NoValue, kCode93NoValue}};
 
-constexpr bool EveryAsciiCharacterButNulHasValues() {
-  for (int byte = 1; byte < 128; ++byte) {
+// What the device writes for the signs that have characters of their own, by value from '$' on.
+constexpr signed char kShiftOfSigns = ValueOfShift('/');
+constexpr Code93Expansion kSignPairs[] = {
+    {2, {kShiftOfSigns, ValueOfCharacter('D')}},  // $
+    {2, {kShiftOfSigns, ValueOfCharacter('O')}},  // /
+    {2, {kShiftOfSigns, ValueOfCharacter('K')}},  // +
+    {2, {kShiftOfSigns, ValueOfCharacter('E')}},  // %
+};
+constexpr signed char kFirstPairedSign = ValueOfCharacter('$');
+constexpr signed char kLastPairedSign = ValueOfCharacter('%');
+static_assert(kLastPairedSign - kFirstPairedSign + 1 == sizeof kSignPairs / sizeof *kSignPairs,
+              "the four signs have values in a row");
+
+constexpr bool EveryAsciiCharacterHasValues() {
+  for (int byte = 0; byte < 128; ++byte) {
     for (int i = 0; i < kAscii.of[byte].count; ++i) {
       if (kAscii.of[byte].values[i] == kCode93NoValue) return false;
     }
   }
   return true;
 }
-static_assert(EveryAsciiCharacterButNulHasValues(), "full ASCII leaves no character out");
+static_assert(EveryAsciiCharacterHasValues(), "full ASCII leaves no character out");
 
 }  // namespace
 
-const Code93Expansion& ExpandCode93(char byte) {
+const Code93Expansion& ExpandCode93(char byte, Conformance& how) {
   const signed char index = AsSignedByte(byte);
-  return index < 0 ? kNoCharacter : kAscii.of[index];
+  if (index < 0) return kNoCharacter;
+  const Code93Expansion& expansion = kAscii.of[index];
+  const signed char value = expansion.values[0];
+  const bool isPairedSign = value >= kFirstPairedSign && value <= kLastPairedSign;
+  return isPairedSign && how.Deviates(Deviation::kD93_1) ? kSignPairs[value - kFirstPairedSign]
+                                                         : expansion;
 }
+
+const char* Code93Letters(int value) { return kLetters.rows[value]; }
 
 const char* Code93Modules(int value) {
   return value >= 0 && value < kCode93CharacterCount ? kCode93Characters[value].modules : nullptr;

@@ -7,6 +7,8 @@
 #ifndef BARHATCH_SYMBOLOGIES_CODE93CHARACTERS_H
 #define BARHATCH_SYMBOLOGIES_CODE93CHARACTERS_H
 
+#include "job/Deviations.h"
+
 namespace barhatch {
 
 // The values take part in the check sums modulo 47; the start/stop character stands outside.
@@ -22,12 +24,14 @@ struct Code93Expansion {
   signed char values[2];  // 0..46, or kCode93NoValue alone
 };
 
-// Bytes of 128 and above, compared as signed bytes, and the NUL expand to kCode93NoValue; every
-// other byte to characters that have values.
-const Code93Expansion& ExpandCode93(char byte);
+// Bytes of 128 and above expand to kCode93NoValue; every other byte to characters that have values.
+const Code93Expansion& ExpandCode93(char byte, Conformance& how);
 
 // The nine modules of a value, '1' dark; null for a value outside 0..47.
 const char* Code93Modules(int value);
+
+// The same as letters of a module string. REQUIRES: value in 0..47.
+const char* Code93Letters(int value);
 
 }  // namespace barhatch
 

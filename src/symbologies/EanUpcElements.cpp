@@ -11,6 +11,9 @@ namespace barhatch {
 
 namespace {
 
+constexpr int kDigitModules = 7;
+constexpr int kParityDigits = 6;
+
 struct DigitModules {
   char sets[3][8];  // indexed by NumberSet
 };
@@ -29,6 +32,22 @@ constexpr DigitModules kDigits[] = {
     {{"0110111", "0001001", "1001000"}},  // 8
     {{"0001011", "0010111", "1110100"}},  // 9
 };
+
+struct DigitLetters {
+  char sets[3][10][kDigitModules];  // indexed by NumberSet
+};
+
+constexpr DigitLetters MakeDigitLetters() {
+  DigitLetters letters{};
+  for (int set = 0; set < 3; ++set) {
+    for (int digit = 0; digit < 10; ++digit) {
+      for (int i = 0; i < kDigitModules; ++i)
+        letters.sets[set][digit][i] = ModuleLetter(kDigits[digit].sets[set][i]);
+    }
+  }
+  return letters;
+}
+constexpr DigitLetters kLetters = MakeDigitLetters();
 
 constexpr const char* ModulesOf(int digit, NumberSet set) {
   return kDigits[digit].sets[static_cast<int>(set)];
@@ -149,7 +168,6 @@ constexpr bool EveryLayoutFits() {
   for (const EanUpcLayout& layout : kEanUpcLayouts) {
     const int working = layout.workingDigits + layout.addonDigits;
     if (static_cast<std::size_t>(working) >= kWorkingCapacity) return false;
-    if (ModuleCount(layout, QuietZone::kBothEnds) >= layout.capacity) return false;
   }
   return true;
 }
@@ -167,22 +185,25 @@ static_assert(kCheckModulus != 0, "the check digit is a remainder");
 static_assert(kLayoutCount == 12, "four symbols, each plain and with two add-ons");
 static_assert(RowsAreIndexedBySymbol(), "the symbol is the index of its row");
 static_assert(WorkingDigitsAreThoseGivenAndAdded(), "the encoder adds two digits at most");
-static_assert(EveryLayoutFits(), "digits fit the working copy and letters fit the capacity");
+static_assert(EveryLayoutFits(), "digits fit the working copy");
 
 constexpr int ValueOf(char digit) { return digit - '0'; }
 
 // The set that a character of a parity stands for.
 constexpr NumberSet SetOf(char parity) { return parity == '1' ? NumberSet::kG : NumberSet::kL; }
 
-}  // namespace
-
-bool ValidateDigits(const EanUpcLayout& layout, const char* text) {
-  // D-EAN-3: number system 1 as well as 0.
-  if (layout.firstDigit == FirstDigit::kNumberSystem && !IsOneOf(*text, "01")) return false;
-  int count = 0;
-  while (IsDigit(text[count])) ++count;
-  return text[count] == '\0' && count == layout.mainDigits + layout.addonDigits;
+char* DrawDigit(char* at, char digit, NumberSet set) {
+  return CopyLetters(at, kLetters.sets[static_cast<int>(set)][ValueOf(digit)]);
 }
+
+// Beside EAN the gap of the device is by the book.
+int GapOf(const EanUpcLayout& layout, Conformance& how) {
+  if (!how.IsInForce(Deviation::kDEAN_1)) return kAddonGapModules;
+  if (layout.firstDigit != FirstDigit::kGiven) how.Meet(Deviation::kDEAN_1);
+  return kDeviceAddonGapModules;
+}
+
+}  // namespace
 
 int CheckDigit(const char* digits, int count) {
   int sum = 0;
@@ -222,23 +243,27 @@ const char* AddonParity(const char* addon, int count) {
   return kAddon5Parities[sum % 10].parities;
 }
 
-void AppendDigits(ModuleStringBuilder& builder, const char* digits, const char* parity) {
-  for (; *parity != '\0'; ++parity)
-    builder.AppendModules<7>(EncodeDigit(*digits++, SetOf(*parity)));
+void AppendDigits(SymbolWriter& out, const char* digits, const char* parity) {
+  char* at = out.Room(kDigitModules * kParityDigits);
+  if (at == nullptr) return;
+  for (; *parity != '\0'; ++parity) at = DrawDigit(at, *digits++, SetOf(*parity));
 }
 
-void AppendDigits(ModuleStringBuilder& builder, const char* digits, int count, NumberSet set) {
-  for (int i = 0; i < count; ++i) builder.AppendModules<7>(EncodeDigit(digits[i], set));
+void AppendDigits(SymbolWriter& out, const char* digits, int count, NumberSet set) {
+  char* at = out.Room(static_cast<std::size_t>(kDigitModules * count));
+  if (at == nullptr) return;
+  for (int i = 0; i < count; ++i) at = DrawDigit(at, digits[i], set);
 }
 
-void AppendAddon(ModuleStringBuilder& builder, const char* addon, int count) {
-  if (count == 0) return;
-  const char* parity = AddonParity(addon, count);
-  builder.AppendSpace(kAddonGapModules);
-  builder.AppendModules(kAddonStartGuard);
-  for (int i = 0; i < count; ++i) {
-    if (i > 0) builder.AppendModules(kAddonSeparator);
-    builder.AppendModules<7>(EncodeDigit(addon[i], SetOf(parity[i])));
+void AppendAddon(SymbolWriter& out, const EanUpcLayout& layout, const char* addon,
+                 Conformance& how) {
+  if (layout.addonDigits == 0) return;
+  const char* parity = AddonParity(addon, layout.addonDigits);
+  out.AppendSpace(GapOf(layout, how));
+  out.AppendModules(kAddonStartGuard);
+  for (int i = 0; i < layout.addonDigits; ++i) {
+    if (i > 0) out.AppendModules(kAddonSeparator);
+    if (char* at = out.Room(kDigitModules)) DrawDigit(at, addon[i], SetOf(parity[i]));
   }
 }
 

@@ -14,8 +14,7 @@
 
 #include <cstddef>
 
-#include "symbologies/ModuleStringBuilder.h"
-#include "symbologies/Symbology.h"
+#include "symbologies/Encoder.h"
 
 namespace barhatch {
 
@@ -50,30 +49,26 @@ struct EanUpcLayout {
   int workingDigits;  // main digits with what the encoder adds; the check digit, where it adds one,
                       // is the last of them, and the add-on digits follow
   FirstDigit firstDigit;
-  int mainModules;        // of the symbol without add-on and quiet zone: seven a drawn digit and
-                          // 11 of the guards (3 + 5 + 3), 9 for UPC-E (3 + 6)
-  int leftQuietModules;   // always read from this table, QuietZoneSize has no say
-  int rightQuietModules;  // behind the add-on where there is one
-  std::size_t capacity;   // what the module string has always been allocated with, in characters
+  int mainModules;  // of the symbol without add-on and quiet zone: seven a drawn digit and
+                    // 11 of the guards (3 + 5 + 3), 9 for UPC-E (3 + 6)
 };
 
 // clang-format off
 inline constexpr EanUpcLayout kEanUpcLayouts[] = {
-    //                           digits                                         quiet zone
-    //                         main addon working                     modules  left right  capacity
-    {EanUpcSymbol::kEan13,        12,  0,  13,   FirstDigit::kGiven,         95,   11,  7,  28053},
-    {EanUpcSymbol::kEan13Addon2,  12,  2,  13,   FirstDigit::kGiven,         95,   11,  7,  28093},
-    {EanUpcSymbol::kEan13Addon5,  12,  5,  13,   FirstDigit::kGiven,         95,   11,  7,  28093},
-    {EanUpcSymbol::kUpcA,         11,  0,  13,   FirstDigit::kBehindZero,    95,    9,  9,  18722},
-    {EanUpcSymbol::kUpcAAddon2,   11,  2,  13,   FirstDigit::kBehindZero,    95,    9,  9,  21839},
-    {EanUpcSymbol::kUpcAAddon5,   11,  5,  13,   FirstDigit::kBehindZero,    95,    9,  9,  21859},
-    {EanUpcSymbol::kEan8,          7,  0,   8,   FirstDigit::kGiven,         67,    7,  7,  28053},
-    // D-EAN-2: the standard has no add-ons beside EAN-8
-    {EanUpcSymbol::kEan8Addon2,    7,  2,   8,   FirstDigit::kGiven,         67,    7,  7,  28073},
-    {EanUpcSymbol::kEan8Addon5,    7,  5,   8,   FirstDigit::kGiven,         67,    7,  7,  28093},
-    {EanUpcSymbol::kUpcE,          7,  0,   7,   FirstDigit::kNumberSystem,  51,    9,  7,  21839},
-    {EanUpcSymbol::kUpcEAddon2,    7,  2,   7,   FirstDigit::kNumberSystem,  51,    9,  7,  21839},
-    {EanUpcSymbol::kUpcEAddon5,    7,  5,   7,   FirstDigit::kNumberSystem,  51,    9,  7,  21859},
+    //                           digits
+    //                         main addon working                     modules
+    {EanUpcSymbol::kEan13,        12,  0,  13,   FirstDigit::kGiven,         95},
+    {EanUpcSymbol::kEan13Addon2,  12,  2,  13,   FirstDigit::kGiven,         95},
+    {EanUpcSymbol::kEan13Addon5,  12,  5,  13,   FirstDigit::kGiven,         95},
+    {EanUpcSymbol::kUpcA,         11,  0,  13,   FirstDigit::kBehindZero,    95},
+    {EanUpcSymbol::kUpcAAddon2,   11,  2,  13,   FirstDigit::kBehindZero,    95},
+    {EanUpcSymbol::kUpcAAddon5,   11,  5,  13,   FirstDigit::kBehindZero,    95},
+    {EanUpcSymbol::kEan8,          7,  0,   8,   FirstDigit::kGiven,         67},
+    {EanUpcSymbol::kEan8Addon2,    7,  2,   8,   FirstDigit::kGiven,         67},
+    {EanUpcSymbol::kEan8Addon5,    7,  5,   8,   FirstDigit::kGiven,         67},
+    {EanUpcSymbol::kUpcE,          7,  0,   7,   FirstDigit::kNumberSystem,  51},
+    {EanUpcSymbol::kUpcEAddon2,    7,  2,   7,   FirstDigit::kNumberSystem,  51},
+    {EanUpcSymbol::kUpcEAddon5,    7,  5,   7,   FirstDigit::kNumberSystem,  51},
 };
 // clang-format on
 
@@ -85,7 +80,8 @@ constexpr char kNormalGuard[] = "101";
 constexpr char kCentreGuard[] = "01010";
 constexpr char kAddonStartGuard[] = "1011";
 constexpr char kAddonSeparator[] = "01";
-constexpr int kAddonGapModules = 8;  // D-EAN-1: beside UPC at least nine are asked for
+constexpr int kAddonGapModules = 9;  // 9 to 12 beside UPC, 7 to 12 beside EAN
+constexpr int kDeviceAddonGapModules = 8;
 
 constexpr int kCheckModulus = 10;
 
@@ -93,10 +89,6 @@ constexpr int kCheckModulus = 10;
 constexpr std::size_t kWorkingCapacity = 13 + 5 + 1;
 
 enum class NumberSet { kL, kG, kR };
-
-// True for text of exactly the layout's digits and nothing else; the number system of UPC-E is '0'
-// or '1'.
-bool ValidateDigits(const EanUpcLayout& layout, const char* text);
 
 // The digit 0..9 that completes the digits to a multiple of ten with weights 3, 1, 3, ... counted
 // from the rightmost one: 4 for the seven digits 9638507 (3*9 + 6 + 3*3 + 8 + 3*5 + 0 + 3*7 = 86).
@@ -121,39 +113,23 @@ const char* UpcEParity(int numberSystem, int checkDigit);
 // chosen by (3*a1 + 9*a2 + 3*a3 + 9*a4 + 3*a5) mod 10, "10100" for 52495. REQUIRES: count 2 or 5.
 const char* AddonParity(const char* addon, int count);
 
-// Appends one digit for each character of the parity.
-void AppendDigits(ModuleStringBuilder& builder, const char* digits, const char* parity);
+// Appends one digit for each of the six characters of the parity.
+void AppendDigits(SymbolWriter& out, const char* digits, const char* parity);
 // Appends count digits, all from one set.
-void AppendDigits(ModuleStringBuilder& builder, const char* digits, int count, NumberSet set);
+void AppendDigits(SymbolWriter& out, const char* digits, int count, NumberSet set);
 
-// Appends the gap, the add-on guard and the digits with separators between them; nothing for count
-// 0. REQUIRES: count 0, 2 or 5.
-void AppendAddon(ModuleStringBuilder& builder, const char* addon, int count);
+// Appends the gap, the add-on guard and the digits with separators between them; nothing for a
+// layout without add-on.
+void AppendAddon(SymbolWriter& out, const EanUpcLayout& layout, const char* addon,
+                 Conformance& how);
 
-// Letters of the whole module string, without the NUL.
-constexpr std::size_t ModuleCount(const EanUpcLayout& layout, QuietZone quietZone) {
+// Letters of the symbol with its add-on, at most.
+constexpr std::size_t MostModules(const EanUpcLayout& layout) {
   const int digits = layout.addonDigits;
   // Start guard, seven modules a digit, two between digits.
   const int addon = digits == 0 ? 0 : kAddonGapModules + 4 + 7 * digits + 2 * (digits - 1);
-  return static_cast<std::size_t>(QuietModules(quietZone, layout.leftQuietModules) +
-                                  layout.mainModules + addon +
-                                  QuietModules(quietZone, layout.rightQuietModules));
+  return static_cast<std::size_t>(layout.mainModules + addon);
 }
-
-// An encoder of one family: the module string of the narrowed text, owned by the caller (delete[]).
-// Null for text that ValidateDigits refuses, before anything is allocated, and when there is no
-// memory.
-using EanUpcEncoder = char* (*)(const EanUpcLayout& layout, const char* text, QuietZone quietZone);
-
-// What the twelve classes are: a row of the table and the encoder of its family.
-template <EanUpcSymbol kSymbol, EanUpcEncoder kEncoder>
-class EanUpcSymbology : public Symbology {
- public:
-  static char* Encode(const char* text, QuietZone quietZone) {
-    return kEncoder(EanUpcLayoutOf(kSymbol), text, quietZone);
-  }
-  char* GenerateString() override { return EncodeCurrentText(Encode); }
-};
 
 }  // namespace barhatch
 

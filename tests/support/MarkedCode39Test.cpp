@@ -5,9 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "support/OwnedString.h"
 #include "support/ReaderOracle.h"
-#include "symbologies/Code39Symbology.h"
+#include "symbologies/DrawnSymbol.h"
 
 namespace barhatch::test {
 namespace {
@@ -57,7 +56,7 @@ Raster Picture(const std::string& modules, const std::string& filled, double mar
 }
 
 std::string Modules39(const std::string& text, QuietZone quietZone) {
-  return Take(EncodeCode39(text.c_str(), quietZone)).value();
+  return DrawnByTheDevice(1, text, quietZone).value();
 }
 
 void ExpectRead(const Raster& picture, const std::string& text) {

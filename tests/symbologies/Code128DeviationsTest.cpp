@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "symbologies/Code128Symbologies.h"
+#include "symbologies/Code128Policies.h"
 #include "symbologies/Code128Testing.h"
 
 namespace barhatch {

@@ -18,8 +18,10 @@ using test::ReadCode128;
 using test::Take;
 
 std::optional<std::string> LettersOf(int value) {
-  ModuleStringBuilder builder(1, kCode128CharacterModules);
-  AppendCode128Character(builder, value);
+  SymbolWriter builder(RuntimeMemory(), 1, {0, 0});
+  builder.Open(kCode128CharacterModules);
+  const auto one = static_cast<std::uint8_t>(value);
+  AppendCode128Characters(builder, &one, 1);
   return Take(builder.Release());
 }
 
@@ -51,7 +53,8 @@ TEST(Code128Patterns, NamedValuesAreThePublishedCharacters) {
 }
 
 TEST(Code128Patterns, StopIsFollowedByATerminationBarOfTwoModules) {
-  ModuleStringBuilder builder(1, kCode128CharacterModules + kCode128TerminationBarModules);
+  SymbolWriter builder(RuntimeMemory(), 1, {0, 0});
+  builder.Open(kCode128CharacterModules + kCode128TerminationBarModules);
   AppendCode128Stop(builder);
   EXPECT_EQ(Take(builder.Release()), Modules("11000111010 11"));
 }

@@ -9,8 +9,8 @@
 
 #include "support/Code128Reader.h"
 #include "support/ExpectedReading.h"
-#include "support/OwnedString.h"
-#include "symbologies/Code128Symbologies.h"
+#include "symbologies/Code128Policies.h"
+#include "symbologies/DrawnSymbol.h"
 
 namespace barhatch::test::code128 {
 
@@ -27,13 +27,18 @@ constexpr TypeAndPolicy kTypes[] = {{5, kAuto}, {6, kFromA}, {7, kB}, {8, kFromC
 
 inline std::optional<std::string> Encode(Code128Policy policy, const std::string& text,
                                          QuietZone quietZone = QuietZone::kNone) {
-  return Take(EncodeCode128(text.c_str(), policy, quietZone));
+  for (const TypeAndPolicy& row : kTypes) {
+    if (row.policy == policy) return DrawnByTheDevice(row.type, text, quietZone);
+  }
+  return std::nullopt;
 }
 
 // Start to check character; empty for a refused text.
 inline std::vector<int> ValuesWithCheck(Code128Policy policy, const std::string& text) {
+  if (!Encode(policy, text)) return {};
+  Conformance how = Conformance::Device();
   Code128Values symbol;
-  if (!BuildCode128Values(text.c_str(), policy, symbol)) return {};
+  BuildCode128Values({text.c_str(), text.size()}, policy, how, symbol);
   return std::vector<int>(symbol.values, symbol.values + symbol.count);
 }
 

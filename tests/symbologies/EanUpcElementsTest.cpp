@@ -262,14 +262,11 @@ TEST_F(EanUpcFamily, AllFiveDigitParitiesAreReadBackBesideEverySymbol) {
   }
 }
 
-TEST(EanUpcLayouts, AnnounceTheLettersAndTheCapacityOfTheirTypes) {
+TEST(EanUpcLayouts, AnnounceTheLettersOfTheirTypes) {
   ASSERT_EQ(std::size(kEanUpcLayouts), std::size(kTypes));
   for (std::size_t i = 0; i < std::size(kTypes); ++i) {
-    const EanUpcLayout& layout = kEanUpcLayouts[i];
-    EXPECT_EQ(ModuleCount(layout, QuietZone::kNone), kTypes[i].modules) << kTypes[i].type;
-    EXPECT_EQ(ModuleCount(layout, QuietZone::kBothEnds), kTypes[i].modulesWithQuiet)
-        << kTypes[i].type;
-    EXPECT_EQ(layout.capacity, kTypes[i].capacity) << kTypes[i].type;
+    const std::size_t widerGap = kTypes[i].addonDigits > 0 ? 1 : 0;  // by the book
+    EXPECT_EQ(MostModules(kEanUpcLayouts[i]), kTypes[i].modules + widerGap) << kTypes[i].type;
   }
 }
 
@@ -349,21 +346,32 @@ TEST(EanUpcParities, OfEveryFiveDigitAddonAreThoseOfItsCheckValue) {
 
 TEST(EanUpcParities, OfAFiveDigitAddonWithCheckValueSevenAreLGLGL) {
   EXPECT_STREQ(AddonParity("00009", 5), "01010");  // 3 * 9 = 27
-  ModuleStringBuilder builder(0, 8 + 47);
-  AppendAddon(builder, "00009", 5);
+  SymbolWriter builder(RuntimeMemory(), 0, {0, 0});
+  builder.Open(8 + 47);
+  Conformance how = Conformance::Device();
+  AppendAddon(builder, EanUpcLayoutOf(EanUpcSymbol::kEan13Addon5), "00009", how);
   EXPECT_EQ(Take(builder.Release()),
             Modules("00000000 1011 0001101 01 0100111 01 0001101 01 0100111 01 0001011"));
 }
 
+std::string DrawnAddon(EanUpcSymbol symbol, const char* addon, Conformance how) {
+  SymbolWriter out(RuntimeMemory(), 0, {0, 0});
+  out.Open(100);
+  AppendAddon(out, EanUpcLayoutOf(symbol), addon, how);
+  return *Take(out.Release());
+}
+
 TEST(EanUpcAddon, OfTwoDigitsIsTwentyModulesAndOfFiveFortySeven) {
-  const auto drawn = [](const char* addon, int count) {
-    ModuleStringBuilder builder(0, 100);
-    AppendAddon(builder, addon, count);
-    return *Take(builder.Release());
-  };
-  EXPECT_EQ(drawn("12", 2).size(), 8u + 20u);
-  EXPECT_EQ(drawn("52495", 5).size(), 8u + 47u);
-  EXPECT_EQ(drawn("", 0), "");
+  const Conformance device = Conformance::Device();
+  EXPECT_EQ(DrawnAddon(EanUpcSymbol::kEan13Addon2, "12", device).size(), 8u + 20u);
+  EXPECT_EQ(DrawnAddon(EanUpcSymbol::kEan13Addon5, "52495", device).size(), 8u + 47u);
+  EXPECT_EQ(DrawnAddon(EanUpcSymbol::kEan13, "", device), "");
+}
+
+TEST(EanUpcAddon, StandsNineModulesAwayByTheBook) {
+  const Conformance published = Conformance::Published();
+  EXPECT_EQ(DrawnAddon(EanUpcSymbol::kEan13Addon2, "12", published).size(), 9u + 20u);
+  EXPECT_EQ(DrawnAddon(EanUpcSymbol::kUpcAAddon5, "52495", published).size(), 9u + 47u);
 }
 
 TEST(EanUpcCheckDigit, WeighsThreeFromTheRightmostDigit) {

@@ -1,0 +1,31 @@
+#include "mark/Mark.h"
+
+#include "symbologies/SymbologyTable.h"
+
+namespace barhatch {
+
+namespace {
+
+QuietModules QuietOf(const SymbologyRow& row, std::int32_t modules) {
+  if (modules == kNoQuietZone) return {0, 0};
+  if (modules == kStandardQuietZone) return {row.quietLeft, row.quietRight};
+  return {modules, modules};
+}
+
+}  // namespace
+
+Refusal DrawLinear(const LinearJob& job, std::size_t usualCapacity, const Memory& memory,
+                   Conformance& how, LinearSymbol& symbol) {
+  const SymbologyRow& row = kSymbologies[job.symbology];
+  std::size_t length = job.length;
+  const Refusal refusal = CheckText(row.text, job.text, length, how);
+  if (refusal.IsRefused()) return refusal;
+
+  const QuietModules quiet = QuietOf(row, job.quietModules);
+  SymbolWriter out(memory, usualCapacity, quiet);
+  row.encode({job.text, length}, row.variant, how, out);
+  symbol = {out.Release(), out.Length(), quiet.left, quiet.right};
+  return {symbol.letters != nullptr ? Reason::kNone : Reason::kNoMemory, -1, 0};
+}
+
+}  // namespace barhatch

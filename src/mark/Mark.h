@@ -1,0 +1,31 @@
+// The library as functions of values: a job in, a symbol or a refusal out. This is the only room
+// that opens the doors of the rooms below; the exports and the mark interface are its hosts.
+#ifndef BARHATCH_MARK_MARK_H
+#define BARHATCH_MARK_MARK_H
+
+#include <cstddef>
+
+#include "job/Deviations.h"
+#include "job/Job.h"
+#include "job/Memory.h"
+#include "job/Refusal.h"
+
+namespace barhatch {
+
+// A module string with its quiet zones. The letters have a NUL behind them, come from the memory of
+// the call and belong to the caller.
+struct LinearSymbol {
+  char* letters = nullptr;
+  std::size_t length = 0;
+  int quietLeft = 0;  // modules, in the letters
+  int quietRight = 0;
+};
+
+// usualCapacity: characters that the letters get room for at least, 0 for no more than they need.
+// A refused job has taken no memory. REQUIRES: job.symbology in 0..22.
+Refusal DrawLinear(const LinearJob& job, std::size_t usualCapacity, const Memory& memory,
+                   Conformance& how, LinearSymbol& symbol);
+
+}  // namespace barhatch
+
+#endif

@@ -1,0 +1,113 @@
+#include "symbologies/Codabar.h"
+
+#include <cstring>
+
+#include "job/CharacterClasses.h"
+#include "symbologies/LetterTables.h"
+#include "symbologies/PatternTables.h"
+#include "symbologies/TextRules.h"
+
+namespace barhatch {
+
+namespace {
+
+struct CodabarCharacter {
+  char character;
+  char otherName;  // of a start/stop character
+  char elements[8];
+};
+
+// Codabar characters: AIM USS Codabar, character set. Elements left to right, bar first; 1 = wide.
+// clang-format off
+constexpr CodabarCharacter kCodabarCharacters[] = {
+    //          BSBSBSB
+    {'0', '\0', "0000011"},
+    {'1', '\0', "0000110"},
+    {'2', '\0', "0001001"},
+    {'3', '\0', "1100000"},
+    {'4', '\0', "0010010"},
+    {'5', '\0', "1000010"},
+    {'6', '\0', "0100001"},
+    {'7', '\0', "0100100"},
+    {'8', '\0', "0110000"},
+    {'9', '\0', "1001000"},
+    {'-', '\0', "0001100"},
+    {'$', '\0', "0011000"},
+    {':', '\0', "1000101"},
+    {'/', '\0', "1010001"},
+    {'.', '\0', "1010100"},
+    {'+', '\0', "0010101"},
+    {'A', 'T',  "0011010"},
+    {'B', 'N',  "0101001"},
+    {'C', '*',  "0001011"},
+    {'D', 'E',  "0001110"},
+};
+// clang-format on
+constexpr int kCodabarCharacterCount = sizeof(kCodabarCharacters) / sizeof(kCodabarCharacters[0]);
+
+constexpr bool HaveWide(int firstRow, int lastRow, int bars, int spaces) {
+  for (int row = firstRow; row <= lastRow; ++row) {
+    const char* elements = kCodabarCharacters[row].elements;
+    if (WideBars(elements) != bars || WideSpaces(elements) != spaces) return false;
+  }
+  return true;
+}
+static_assert(kCodabarCharacterCount == 20, "digits, six signs and four start/stop characters");
+static_assert(HaveWide(0, 11, 1, 1), "digits, '-' and '$': one wide bar, one space");
+static_assert(HaveWide(12, 15, 3, 0), "':', '/', '.' and '+': three wide bars");
+static_assert(HaveWide(16, 19, 1, 2), "start/stop: one wide bar, two wide spaces");
+static_assert(AllOfFullLength(kCodabarCharacters, &CodabarCharacter::elements), "7 elements");
+static_assert(AllDistinct(kCodabarCharacters, &CodabarCharacter::elements), "20 patterns");
+
+constexpr auto kLetters = ElementLetters<1>(kCodabarCharacters, &CodabarCharacter::elements);
+constexpr CharacterRows MakeRows() {
+  CharacterRows rows;
+  rows.Add(kCodabarCharacters, &CodabarCharacter::otherName);
+  rows.Add(kCodabarCharacters, &CodabarCharacter::character);
+  return rows;
+}
+constexpr CharacterRows kRows = MakeRows();
+
+int RowOf(char character) { return kRows.of[static_cast<unsigned char>(character)]; }
+
+bool IsStartStop(char character) { return (ClassesOf(character) & kClassCodabarEnds) != 0; }
+
+}  // namespace
+
+const char* CodabarElements(char character) {
+  return kCodabarCharacters[RowOf(character)].elements;
+}
+
+Refusal CheckCodabarForm(const Characters& text, Conformance& how) {
+  const std::size_t last = text.length - 1;
+  for (std::size_t i = 1; i < last; ++i) {
+    const char character = text.text[i];
+    if (IsStartStop(character)) {
+      return {Reason::kCharacter, static_cast<std::int32_t>(i),
+              static_cast<unsigned char>(character)};
+    }
+  }
+  const bool starts = IsStartStop(text.text[0]);
+  const bool stops = last > 0 && IsStartStop(text.text[last]);
+  if (starts && stops) {
+    if (text.length > 2 || how.Deviates(Deviation::kDCB_3)) return {};
+    return {Reason::kLength, -1, static_cast<std::int32_t>(text.length)};
+  }
+  if (how.Deviates(starts || stops ? Deviation::kDCB_2 : Deviation::kDCB_1)) return {};
+  return starts ? Refusal{Reason::kNoStop, static_cast<std::int32_t>(last), 0}
+                : Refusal{Reason::kNoStart, 0, 0};
+}
+
+void EncodeCodabar(const Characters& text, int /*variant*/, Conformance& /*how*/,
+                   SymbolWriter& out) {
+  // Eight letters a character (seven elements and a gap) but the last, which has no gap.
+  const std::size_t letters = 8 * text.length - 1;
+  out.Open(letters);
+  char* at = out.Room(letters);
+  if (at == nullptr) return;
+  for (std::size_t i = 0; i + 1 < text.length; ++i)
+    at = CopyLetters(at, kLetters.rows[RowOf(text.text[i])]);
+  std::memcpy(at, kLetters.rows[RowOf(text.text[text.length - 1])], 7);
+}
+
+}  // namespace barhatch

@@ -1,0 +1,31 @@
+// Codabar (AIM USS Codabar, two widths): seven elements a character, four bars and three spaces,
+// one narrow space between characters. The start and stop characters come inside the data, none are
+// added, and there is no check character. "A1B" becomes three characters and two gaps: 23 letters.
+//
+// A to D may be given by their other names T, N, * and E as well.
+//
+// Deliberate deviations, kept because hosts depend on them (ids in docs/deviations.md):
+//   D-CB-1  data without start and stop characters is accepted and written without them
+//   D-CB-2  a start character without a stop character, or the reverse, is accepted
+//   D-CB-3  a start and a stop character without data between them are accepted
+#ifndef BARHATCH_SYMBOLOGIES_CODABAR_H
+#define BARHATCH_SYMBOLOGIES_CODABAR_H
+
+#include "job/Refusal.h"
+#include "symbologies/Encoder.h"
+
+namespace barhatch {
+
+// Holds a text of Codabar characters to start, data and stop (D-CB-1 to D-CB-3). REQUIRES: one
+// character or more.
+Refusal CheckCodabarForm(const Characters& text, Conformance& how);
+
+// REQUIRES: text that the rule of Codabar accepts. There is one variant.
+void EncodeCodabar(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
+
+// The seven elements of a character of the set, '1' wide.
+const char* CodabarElements(char character);
+
+}  // namespace barhatch
+
+#endif

@@ -1,0 +1,102 @@
+#include "symbologies/Code11.h"
+
+#include "job/CharacterClasses.h"
+#include "symbologies/CyclicWeights.h"
+#include "symbologies/LetterTables.h"
+#include "symbologies/PatternTables.h"
+
+namespace barhatch {
+
+namespace {
+
+struct Code11Character {
+  char character;
+  char elements[6];
+};
+
+// Code 11 characters in the order of their values, as its public descriptions list them. Elements
+// left to right, bar first; 1 = wide. The last row is start and stop.
+// clang-format off
+constexpr Code11Character kCode11Characters[] = {
+    //    BSBSB
+    {'0', "00001"},
+    {'1', "10001"},
+    {'2', "01001"},
+    {'3', "11000"},
+    {'4', "00101"},
+    {'5', "10100"},
+    {'6', "01100"},
+    {'7', "00011"},
+    {'8', "10010"},
+    {'9', "10000"},
+    {'-', "00100"},
+    {'*', "00110"},
+};
+// clang-format on
+constexpr auto kLetters = ElementLetters<1>(kCode11Characters, &Code11Character::elements);
+constexpr int kCode11CharacterCount = sizeof(kCode11Characters) / sizeof(kCode11Characters[0]);
+constexpr int kDash = 10;
+constexpr int kStartStop = 11;
+constexpr char kStartStopElements[] = "00110";
+constexpr int kModulus = 11;
+static_assert(IsSamePattern(kCode11Characters[kStartStop].elements, kStartStopElements), "");
+
+constexpr bool TwoOfFiveWideButForThree() {
+  for (const Code11Character& row : kCode11Characters) {
+    const int wide = WideBars(row.elements) + WideSpaces(row.elements);
+    if (wide != (IsOneOf(row.character, "09-") ? 1 : 2)) return false;
+  }
+  return true;
+}
+static_assert(kCode11CharacterCount == 12, "ten digits, '-' and start/stop");
+static_assert(TwoOfFiveWideButForThree(), "0, 9 and - have one wide element, all others two");
+static_assert(AllOfFullLength(kCode11Characters, &Code11Character::elements), "5 elements");
+static_assert(AllDistinct(kCode11Characters, &Code11Character::elements), "12 patterns");
+
+constexpr std::size_t kLongestTextWithC = 10;  // alone; with K as well from the next one on
+
+struct CheckValues {
+  int count;  // C alone or C and K
+  int values[2];
+};
+
+int ValueOf(char character) { return character == '-' ? kDash : character - '0'; }
+
+void AddFromTheRight(const Characters& text, CyclicWeightedSum& sum) {
+  for (std::size_t i = text.length; i-- > 0;) sum.Add(ValueOf(text.text[i]));
+}
+
+bool HasK(std::size_t length, Conformance& how) {
+  return length > kLongestTextWithC ||
+         (length == kLongestTextWithC && how.Deviates(Deviation::kD11_1));
+}
+
+CheckValues ComputeCheckValues(const Characters& text, Conformance& how) {
+  CyclicWeightedSum weightedForC(1, 10);
+  AddFromTheRight(text, weightedForC);
+  const int c = weightedForC.Modulo(kModulus);
+  if (!HasK(text.length, how)) return {1, {c, 0}};
+
+  CyclicWeightedSum weightedForK(1, 9);
+  weightedForK.Add(c);
+  AddFromTheRight(text, weightedForK);
+  return {2, {c, weightedForK.Modulo(kModulus)}};
+}
+
+}  // namespace
+
+void EncodeCode11(const Characters& text, int /*variant*/, Conformance& how, SymbolWriter& out) {
+  const CheckValues check = ComputeCheckValues(text, how);
+  const std::size_t characters = text.length + static_cast<std::size_t>(check.count) + 1;
+  // Six letters a character (five elements and a gap) from the start on, and a stop without gap.
+  out.Open(6 * characters + 5);
+  char* at = out.Room(6 * characters);
+  if (at == nullptr) return;
+  at = CopyLetters(at, kLetters.rows[kStartStop]);
+  for (std::size_t i = 0; i < text.length; ++i)
+    at = CopyLetters(at, kLetters.rows[ValueOf(text.text[i])]);
+  for (int i = 0; i < check.count; ++i) at = CopyLetters(at, kLetters.rows[check.values[i]]);
+  out.AppendElements(kStartStopElements);
+}
+
+}  // namespace barhatch

@@ -1,0 +1,29 @@
+// Code 39 (ISO/IEC 16388) without check character and without full ASCII, between the start/stop
+// characters '*' that the encoder adds. "A1" becomes the 39 letters of *A1*: nine elements a
+// character, one narrow space between characters.
+//
+// Deliberate deviations, kept because marked parts and hosts depend on them (ids in
+// docs/deviations.md):
+//   D-39-1  the table row of 'W' is not the published one (no text reaches that row, see D-39-3)
+//   D-39-2  '/' has the elements of '%'
+//   D-39-3  'E' to 'Z' are accepted and all written as one narrow bar and eight wide elements
+//   D-39-4  '*' is accepted inside the data and written as the start/stop character
+//   D-39-5  "%%" in the data stands for a single '%'
+//   D-39-6  the empty text is accepted and gives start and stop alone
+#ifndef BARHATCH_SYMBOLOGIES_CODE39_H
+#define BARHATCH_SYMBOLOGIES_CODE39_H
+
+#include "symbologies/Encoder.h"
+
+namespace barhatch {
+
+// REQUIRES: text that the rule of Code 39 accepts. There is one variant.
+void EncodeCode39(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
+
+// The nine elements of a row of the character table, '1' wide, '0' narrow. Rows: 0-9 digits, 10-35
+// letters, then * - $ % space . / +. REQUIRES: index in 0..43.
+const char* Code39TableElements(int index, Conformance& how);
+
+}  // namespace barhatch
+
+#endif

@@ -1,0 +1,118 @@
+#include "symbologies/Interleaved2of5.h"
+
+#include "job/CharacterClasses.h"
+
+namespace barhatch {
+
+namespace {
+
+// Interleaved 2 of 5 digits: ISO/IEC 16390, character encodation. Elements left to right, all bars
+// or all spaces; 1 = wide. The digits 1 to 9 are the sums of the weights of their wide elements; 0,
+// which no such sum is left for, takes 4 + 7.
+// clang-format off
+constexpr char kDigitElements[10][6] = {
+    // 1247P
+    "00110",  // 0
+    "10001",  // 1
+    "01001",  // 2
+    "11000",  // 3
+    "00101",  // 4
+    "10100",  // 5
+    "01100",  // 6
+    "00011",  // 7
+    "10010",  // 8
+    "01010",  // 9
+};
+// clang-format on
+constexpr char kStartElements[] = "0000";
+constexpr char kStopElements[] = "100";
+
+constexpr int kElementsOfDigit = 5;
+constexpr int kElementWeights[kElementsOfDigit] = {1, 2, 4, 7, 0};
+
+constexpr bool IsTwoOfFive(const char* elements) {
+  int wide = 0;
+  for (int i = 0; i < kElementsOfDigit; ++i) wide += elements[i] == '1' ? 1 : 0;
+  return wide == 2 && elements[kElementsOfDigit] == '\0';
+}
+
+constexpr int WeightedDigit(const char* elements) {
+  int sum = 0;
+  for (int i = 0; i < kElementsOfDigit; ++i) sum += elements[i] == '1' ? kElementWeights[i] : 0;
+  return sum % 11;
+}
+
+constexpr bool EveryRowStandsForItsIndex() {
+  for (int digit = 0; digit < 10; ++digit) {
+    if (!IsTwoOfFive(kDigitElements[digit])) return false;
+    if (WeightedDigit(kDigitElements[digit]) != digit) return false;
+  }
+  return true;
+}
+static_assert(EveryRowStandsForItsIndex(), "two of five wide, and their weights make the digit");
+
+// Four elements of start and three of stop.
+constexpr std::size_t kFrameLetters = 4 + 3;
+
+constexpr std::size_t kPairLetters = 2 * kElementsOfDigit;
+
+// The digits as bars and as spaces.
+struct ShadedDigits {
+  char bars[10][kElementsOfDigit];
+  char spaces[10][kElementsOfDigit];
+};
+
+constexpr ShadedDigits ShadeDigits() {
+  ShadedDigits shaded{};
+  for (int digit = 0; digit < 10; ++digit) {
+    for (int i = 0; i < kElementsOfDigit; ++i) {
+      shaded.bars[digit][i] = ElementLetter(kDigitElements[digit][i], 0);
+      shaded.spaces[digit][i] = ElementLetter(kDigitElements[digit][i], 1);
+    }
+  }
+  return shaded;
+}
+constexpr ShadedDigits kLetters = ShadeDigits();
+
+// The first digit in the bars, the second in the spaces.
+char* DrawPair(char* at, char first, char second) {
+  const char* const bars = kLetters.bars[first - '0'];
+  const char* const spaces = kLetters.spaces[second - '0'];
+  for (int i = 0; i < kElementsOfDigit; ++i) {
+    *at++ = bars[i];
+    *at++ = spaces[i];
+  }
+  return at;
+}
+
+}  // namespace
+
+char Interleaved2of5CheckDigit(const Characters& digits, Conformance& how) {
+  const bool startsOnTheLeft = how.Deviates(Deviation::kD25_1);
+  int sum = 0;
+  for (std::size_t i = 0; i < digits.length; ++i) {
+    const std::size_t place = startsOnTheLeft ? i : digits.length - 1 - i;
+    sum += (place % 2 == 0 ? 3 : 1) * (digits.text[i] - '0');
+  }
+  return static_cast<char>('0' + (10 - sum % 10) % 10);
+}
+
+const char* Interleaved2of5Elements(char digit) {
+  return IsDigit(digit) ? kDigitElements[digit - '0'] : nullptr;
+}
+
+void EncodeInterleaved2of5(const Characters& text, int /*variant*/, Conformance& /*how*/,
+                           SymbolWriter& out) {
+  const char* next = text.text;
+  const char* const end = text.text + text.length;
+  const std::size_t letters = kPairLetters * ((text.length + 1) / 2);
+  out.Open(kFrameLetters + letters);
+  out.AppendElements(kStartElements);
+  char* at = out.Room(letters);
+  if (at == nullptr) return;
+  if (text.length % 2 != 0) at = DrawPair(at, '0', *next++);
+  for (; next < end; next += 2) at = DrawPair(at, next[0], next[1]);
+  out.AppendElements(kStopElements);
+}
+
+}  // namespace barhatch

@@ -1,0 +1,35 @@
+// Interleaved 2 of 5 (ISO/IEC 16390): digits in pairs, the first digit of a pair in the bars and
+// the second in the spaces. An odd number of digits gets a '0' in front. No check digit is added:
+// the one that the text may end with is the host's.
+//
+// "12" becomes AaAa BaAbAaAaBb BaA: start, the bars WNNNW of 1 with the spaces NWNNW of 2 between
+// them, stop.
+//
+// Deliberate deviations, kept because marked parts and hosts depend on them (ids in
+// docs/deviations.md):
+//   D-25-1  the check digit's weight 3 is bound to the leftmost digit instead of the rightmost; no
+//           symbol is touched, since the class never asks for the check digit
+//   D-25-2  the empty text is accepted and gives start and stop alone
+#ifndef BARHATCH_SYMBOLOGIES_INTERLEAVED2OF5_H
+#define BARHATCH_SYMBOLOGIES_INTERLEAVED2OF5_H
+
+#include "symbologies/Encoder.h"
+
+namespace barhatch {
+
+// The check digit of a text of digits: weights 3, 1, 3, 1, ... from the rightmost digit on, then
+// what is missing to the next multiple of ten. "12345" has 3x5 + 4 + 3x3 + 2 + 3x1 = 33 and so '7';
+// '0' for the empty text. The device counts from the leftmost digit (D-25-1), which is the same
+// where their number is odd.
+char Interleaved2of5CheckDigit(const Characters& digits, Conformance& how);
+
+// The five elements of a digit, '1' wide, '0' narrow; null for any other character.
+const char* Interleaved2of5Elements(char digit);
+
+// REQUIRES: digits. There is one variant.
+void EncodeInterleaved2of5(const Characters& text, int variant, Conformance& how,
+                           SymbolWriter& out);
+
+}  // namespace barhatch
+
+#endif
