@@ -13,9 +13,9 @@ constexpr double kManyStrokes = 1e5;
 constexpr double kMostGaps = 8589934592.0;  // 2^33: more than 32 bits of gaps in one element
 constexpr std::int32_t kSpiral = 5;
 
-constexpr std::size_t kBytesOfAnElement = 56 + 2 * 32;
+constexpr std::size_t kBytesOfAnElement = 32 + 2 * 32;
 constexpr std::size_t kWorkBytes = 8192;
-constexpr std::size_t kBytesOfTwoRows = 2 * 56 * 146;
+constexpr std::size_t kBytesOfTwoRows = 2 * 32 * 146;
 constexpr std::size_t kUsualLetters = 65536;
 constexpr std::size_t kMostLettersOfAUnit = 40;
 

@@ -18,7 +18,7 @@ void DemandSoundFill(const FillBufferInfo* fill);
 void DemandSoundLetters(const char* letters);
 
 // What a call may hold at its peak, its result included: the result, for each element its rectangle
-// (56 bytes) and two strokes (64 bytes) that were counted ahead and came to nothing, since counts
+// (32 bytes) and two strokes (64 bytes) that were counted ahead and came to nothing, since counts
 // come from above and are at most one too high a rectangle, two in a spiral; and a constant for
 // records and encoders on the heap.
 std::size_t MostFillBytes(const FillBufferInfo* fill, std::size_t elements);

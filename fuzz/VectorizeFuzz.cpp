@@ -10,8 +10,8 @@
 #include "FuzzInput.h"
 #include "Results.h"
 #include "api/BarcodeSettings.h"
+#include "api/Hatcher.h"
 #include "barhatch.h"
-#include "hatch/Hatcher.h"
 #include "support/PlainHatcher.h"
 
 namespace {

@@ -139,8 +139,6 @@ EQUIVALENT = (
     ("LinePatterns.cpp", "strokes > kMostDoubles", "strokes >= kMostDoubles", "so many are refused with their coordinates"),
     ("SpiralPattern.cpp", "lower = lowEdge", "", "every bound is 0.0 from the start"),
     ("GrowableArray.h", "capacity > static_cast", "capacity >= static_cast", "nobody has so much memory"),
-    ("GrowableArray.h", "PTRDIFF_MAX) / sizeof", "PTRDIFF_MAX) * sizeof",
-     "this compiler checks as well and gives null; others end the program"),
     *(("ApiTrace.cpp", "value = 0.0", f"value = {other}", "written before it is read")
       for other in ("-1.0", "1.0")),
     ("ApiTrace.cpp", "(stream_ != nullptr)", "(true)", "without a stream of its own it writes out the others"),
@@ -220,21 +218,15 @@ EQUIVALENT = (
     ("Hatcher.cpp", "(mostDoubles <= 0)", "(false)",
      "a list of nothing makes no fill, one of all memory gets none"),
     ("Hatcher.cpp", "mostDoubles <= 0", "mostDoubles <= 1", "no pattern makes a single double"),
-    ("Hatcher.cpp", "(IsCountedWithoutRects(style))", "(false)", "a shortcut less: the rows have the same centres"),
-    ("Hatcher.cpp", "most = 0", "most = 1", "an array longer than needed"),
-    ("Hatcher.cpp", "rects.HasFailed() ? nullptr : FillOfList", " false ? nullptr : FillOfList",
-     "a list without memory is empty, and an empty one makes no fill"),
     ("LinePatterns.cpp", "(rects.Count() == 0) return;", "(false) return;", "lines across nothing"),
     *((file, before, before.replace("0.0", after, 1), "an x that nobody reads, or a y")
-      for file, before in (("MatrixRects.cpp", "width_, 0.0"), ("MatrixRects.cpp", "raised(0.0, 0.0, 0.0"),
-                           ("MatrixRects.cpp", "0.0, cellSize_"), ("MatrixRects.cpp", "Offset(0.0"))
+      for file, before in (("ElementRows.cpp", "left, 0.0"), ("ElementRows.cpp", "raised(0.0, 0.0, 0.0"),
+                           ("ElementRows.cpp", "0.0, grid_.cellSize)"), ("ElementRows.cpp", "Offset(0.0"))
       for after in ("-1.0", "1.0")),
     ("SpiralPattern.cpp", "low = 0", "low = 1", "written before it is read"),
     ("SpiralPattern.cpp", "high = 0", "high = 1", "written before it is read"),
     ("SpiralPattern.cpp", "horizontal > 0", "horizontal > 1", "one less than one is none"),
     ("SpiralPattern.cpp", "vertical > 0", "vertical > 1", "one less than one is none"),
-    ("GrowableArray.h", "(capacity > static_cast<std::size_t>(PTRDIFF_MAX) / sizeof(T))", "(false)",
-     "this compiler checks as well and gives null; others end the program"),
     ("ApiTrace.cpp", "std::memcpy(&value, &bits, sizeof value)", "", "a double of a low word alone prints as 0.000000"),
     ("ApiTrace.cpp", 'std::fprintf(stream_, "%ls", static_cast<const wchar_t*>(static_cast<const void*>(text)))', "",
      "runs where wchar_t has 16 bits alone"),

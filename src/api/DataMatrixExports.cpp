@@ -2,9 +2,9 @@
 #include "api/ApiTrace.h"
 #include "api/BarcodeSettings.h"
 #include "api/DataText.h"
+#include "api/Hatcher.h"
 #include "barhatch.h"
 #include "datamatrix/DataMatrixEncoder.h"
-#include "hatch/Hatcher.h"
 
 namespace {
 

@@ -2,9 +2,9 @@
 #include "api/ApiTrace.h"
 #include "api/BarcodeSettings.h"
 #include "api/DataText.h"
+#include "api/Hatcher.h"
 #include "api/Ownership.h"
 #include "barhatch.h"
-#include "hatch/Hatcher.h"
 
 namespace {
 

@@ -37,7 +37,7 @@ double BuildRects(const char* row, const ElementSizes& sizes, FilledElements fil
   for (; *row != '\0'; ++row) {
     if (!IsNarrow(*row) && !IsWide(*row)) continue;
     const double right = x + (IsWide(*row) ? sizes.wideSize : sizes.moduleSize);
-    if (IsFilled(*row, filled)) rects.AppendRect(x, 0.0, right, sizes.barHeight);
+    if (IsFilled(*row, filled)) rects.Append(HatchRect(x, 0.0, right, sizes.barHeight));
     x = right;
   }
   return x;

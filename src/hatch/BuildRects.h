@@ -1,10 +1,8 @@
-// From the letters of a module string, or of one row of a matrix, to the rectangles of its filled
-// elements.
+// From the letters of a module string to the rectangles of its filled elements.
 #ifndef BARHATCH_HATCH_BUILDRECTS_H
 #define BARHATCH_HATCH_BUILDRECTS_H
 
 #include <cstddef>
-#include <cstdint>
 
 #include "hatch/HatchLists.h"
 #include "job/Job.h"

@@ -2,27 +2,28 @@
 #ifndef BARHATCH_HATCH_HATCHLISTS_H
 #define BARHATCH_HATCH_HATCHLISTS_H
 
+#include <cstdint>
+
 #include "hatch/GrowableArray.h"
 #include "hatch/HatchGeometry.h"
 
 namespace barhatch {
 
 // The rectangles are held by value: one allocation for a whole symbol instead of one for each bar.
-class RectList : public GrowableArray<HatchRect> {
- public:
-  using GrowableArray::GrowableArray;
+using RectList = GrowableArray<HatchRect>;
 
-  void AppendRect(double x0, double y0, double x1, double y1) {
-    if (HatchRect* room = RoomFor(1)) room->Set(x0, y0, x1, y1);
-  }
-};
+// What the coordinates of a fill are: x and y of the start and x and y of the end of each segment,
+// or x and y of each point.
+enum class FillingShape : std::uint8_t { kSegments, kPoints };
+constexpr int kDoublesPerSegment = 4;
+constexpr int kDoublesPerPoint = 2;
 
 class CoordinateList : public GrowableArray<double> {
  public:
   using GrowableArray::GrowableArray;
 
   void AppendSegment(double xa, double ya, double xb, double yb) {
-    if (double* room = RoomFor(4)) {
+    if (double* room = RoomFor(kDoublesPerSegment)) {
       room[0] = xa;
       room[1] = ya;
       room[2] = xb;

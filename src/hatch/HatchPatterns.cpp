@@ -9,65 +9,34 @@ namespace barhatch {
 
 namespace {
 
-enum HatchingType : std::int32_t {
-  kScanLines = 0,
-  kVerticalLines = 1,
-  kAlternatingHorizontalLines = 2,
-  kAlternatingVerticalLines = 3,
-  kSpiral = 5,
-  kCentres = 6,
+using Shape = FillingShape;
+using Direction = LineDirection;
+using Sense = LineSense;
+
+constexpr HatchPattern kPatterns[] = {
+    // type, shape, most doubles of a row, fill of a row
+    {0, Shape::kSegments, MostScanLineDoubles, FillWithScanLines},
+    {1, Shape::kSegments, MostLineDoubles<Direction::kVertical>,
+     FillWithLines<Direction::kVertical, Sense::kSame>},
+    {2, Shape::kSegments, MostLineDoubles<Direction::kHorizontal>,
+     FillWithLines<Direction::kHorizontal, Sense::kAlternating>},
+    {3, Shape::kSegments, MostLineDoubles<Direction::kVertical>,
+     FillWithLines<Direction::kVertical, Sense::kAlternating>},
+    {5, Shape::kSegments, MostSpiralDoubles, FillWithSpirals},
+    {6, Shape::kPoints, nullptr, FillWithCentres},
 };
 
 // Multiples of an infinite gap are no numbers, and a spiral between such bounds would never end.
-bool HasUsableGap(const HatchStyle& style) {
-  const bool isPitch = style.lineGap > 0.0 && style.lineGap <= std::numeric_limits<double>::max();
-  return isPitch || style.hatchingType == kCentres;
-}
+bool IsPitch(double gap) { return gap > 0.0 && gap <= std::numeric_limits<double>::max(); }
 
 }  // namespace
 
-DoubleCount MostDoubles(const RectList& rects, const HatchStyle& style) {
-  if (!HasUsableGap(style)) return 0;
-  switch (style.hatchingType) {
-    case kScanLines:
-      return MostScanLineDoubles(rects, style.lineGap);
-    case kVerticalLines:
-    case kAlternatingVerticalLines:
-      return MostLineDoubles(rects, style.lineGap, LineDirection::kVertical);
-    case kAlternatingHorizontalLines:
-      return MostLineDoubles(rects, style.lineGap, LineDirection::kHorizontal);
-    case kSpiral:
-      return MostSpiralDoubles(rects, style.lineGap);
-    case kCentres:
-      return CentreDoubles(rects.Count());
-    default:
-      return 0;
+const HatchPattern* PatternOf(const Filling& filling) {
+  for (const HatchPattern& pattern : kPatterns) {
+    if (pattern.type != filling.pattern) continue;
+    return pattern.most == nullptr || IsPitch(filling.gap) ? &pattern : nullptr;
   }
-}
-
-bool IsCountedWithoutRects(const HatchStyle& style) { return style.hatchingType == kCentres; }
-
-void FillRects(const RectList& rects, const HatchStyle& style, CoordinateList& coordinates) {
-  if (!HasUsableGap(style)) return;
-  switch (style.hatchingType) {
-    case kScanLines:
-      return FillWithScanLines(rects, style.lineGap, coordinates);
-    case kVerticalLines:
-      return FillWithLines(rects, style.lineGap, LineDirection::kVertical, LineOrder::kSameWay,
-                           coordinates);
-    case kAlternatingHorizontalLines:
-      return FillWithLines(rects, style.lineGap, LineDirection::kHorizontal,
-                           LineOrder::kAlternating, coordinates);
-    case kAlternatingVerticalLines:
-      return FillWithLines(rects, style.lineGap, LineDirection::kVertical, LineOrder::kAlternating,
-                           coordinates);
-    case kSpiral:
-      return FillWithSpirals(rects, style.lineGap, coordinates);
-    case kCentres:
-      return FillWithCentres(rects, coordinates);
-    default:
-      return;
-  }
+  return nullptr;
 }
 
 }  // namespace barhatch

@@ -1,4 +1,4 @@
-// The fill pattern of a hatching type.
+// The fill patterns: one row of a table for each hatching type that fills anything.
 #ifndef BARHATCH_HATCH_HATCHPATTERNS_H
 #define BARHATCH_HATCH_HATCHPATTERNS_H
 
@@ -6,27 +6,26 @@
 
 #include "hatch/HatchGrid.h"
 #include "hatch/HatchLists.h"
+#include "job/Job.h"
 
 namespace barhatch {
 
-// What the host chose with SetHatchPattern.
-struct HatchStyle {
-  std::int32_t hatchingType;  // 0..3, 5, 6; every other value fills nothing
-  double lineGap;  // host's unit; types 0 to 5 fill nothing unless it is finite and above zero
+struct HatchPattern {
+  std::int32_t type;
+  FillingShape shape;
+
+  // The most doubles that filling a row takes, or kUncountable; found in time proportional to the
+  // rectangles, however small the gap. Null for the pattern that needs no gap and has one point for
+  // each rectangle, whatever it is: CentreDoubles of LinePatterns.h.
+  DoubleCount (*most)(const RectList& row, double gap);
+
+  // Appends the coordinates of a row. REQUIRES: most is not kUncountable.
+  void (*fill)(const RectList& row, double gap, CoordinateList& coordinates);
 };
 
-// The most doubles that filling the rectangles takes: 0 when nothing will be filled, kUncountable
-// when the fill would not fit a fill buffer. Found in time proportional to the rectangles, however
-// small the gap.
-DoubleCount MostDoubles(const RectList& rects, const HatchStyle& style);
-
-// True for the pattern whose fill is counted by the number of rectangles alone, whatever they are:
-// CentreDoubles of LinePatterns.h.
-bool IsCountedWithoutRects(const HatchStyle& style);
-
-// Appends the coordinates of the fill.
-// REQUIRES: MostDoubles(rects, style) is not kUncountable.
-void FillRects(const RectList& rects, const HatchStyle& style, CoordinateList& coordinates);
+// The pattern of a filling. Null where nothing will be filled: for an unknown type, and for a gap
+// that is no pitch (not finite, or not above zero) of a pattern that needs one.
+const HatchPattern* PatternOf(const Filling& filling);
 
 }  // namespace barhatch
 

@@ -4,9 +4,6 @@ namespace barhatch {
 
 namespace {
 
-constexpr DoubleCount kDoublesPerSegment = 4;
-constexpr DoubleCount kDoublesPerPoint = 2;
-
 // A rectangle as the strokes see it: positions advance across it, each stroke runs along it.
 struct StrokeFrame {
   double firstPosition;
@@ -15,7 +12,8 @@ struct StrokeFrame {
   double strokeEnd;
 };
 
-StrokeFrame FrameOf(const HatchRect& rect, double gap, LineDirection direction) {
+template <LineDirection direction>
+StrokeFrame FrameOf(const HatchRect& rect, double gap) {
   const HatchPoint& low = rect.lowerLeft;
   const HatchPoint& high = rect.upperRight;
   return direction == LineDirection::kHorizontal
@@ -30,8 +28,8 @@ DoubleCount SegmentDoubles(DoubleCount strokes, DoubleCount times) {
                                                       : segments * kDoublesPerSegment;
 }
 
-void AppendStroke(LineDirection direction, double position, double from, double to,
-                  CoordinateList& coordinates) {
+template <LineDirection direction>
+void AppendStroke(double position, double from, double to, CoordinateList& coordinates) {
   if (direction == LineDirection::kHorizontal) {
     coordinates.AppendSegment(from, position, to, position);
   } else {
@@ -43,61 +41,71 @@ void AppendStroke(LineDirection direction, double position, double from, double 
 
 DoubleCount MostScanLineDoubles(const RectList& rects, double gap) {
   if (rects.Count() == 0) return 0;
-  const StrokeFrame first = FrameOf(rects[0], gap, LineDirection::kHorizontal);
+  const StrokeFrame first = FrameOf<LineDirection::kHorizontal>(rects[0], gap);
   const DoubleCount lines = MostStrokes(first.firstPosition, first.endPosition, gap);
   return SegmentDoubles(lines, static_cast<DoubleCount>(rects.Count()));
 }
 
 void FillWithScanLines(const RectList& rects, double gap, CoordinateList& coordinates) {
   if (rects.Count() == 0) return;
-  const StrokeFrame first = FrameOf(rects[0], gap, LineDirection::kHorizontal);
+  const StrokeFrame first = FrameOf<LineDirection::kHorizontal>(rects[0], gap);
   for (double y = first.firstPosition; y < first.endPosition; y += gap) {
     double* room = coordinates.RoomFor(kDoublesPerSegment * rects.Count());
     if (room == nullptr) return;
     for (const HatchRect& rect : rects) {
-      const double from = rect.lowerLeft.x;
-      const double to = rect.upperRight.x;
-      room[0] = from;
+      room[0] = rect.lowerLeft.x;
       room[1] = y;
-      room[2] = to;
+      room[2] = rect.upperRight.x;
       room[3] = y;
       room += kDoublesPerSegment;
     }
   }
 }
 
-DoubleCount MostLineDoubles(const RectList& rects, double gap, LineDirection direction) {
+template <LineDirection direction>
+DoubleCount MostLineDoubles(const RectList& rects, double gap) {
   DoubleCount total = 0;
   for (const HatchRect& rect : rects) {
-    const StrokeFrame frame = FrameOf(rect, gap, direction);
+    const StrokeFrame frame = FrameOf<direction>(rect, gap);
     total = AddCounts(total,
                       SegmentDoubles(MostStrokes(frame.firstPosition, frame.endPosition, gap), 1));
   }
   return total;
 }
 
-void FillWithLines(const RectList& rects, double gap, LineDirection direction, LineOrder order,
-                   CoordinateList& coordinates) {
+template <LineDirection direction, LineSense sense>
+void FillWithLines(const RectList& rects, double gap, CoordinateList& coordinates) {
   bool forward = true;
   for (const HatchRect& rect : rects) {
-    const StrokeFrame frame = FrameOf(rect, gap, direction);
+    const StrokeFrame frame = FrameOf<direction>(rect, gap);
     for (double position = frame.firstPosition; position < frame.endPosition; position += gap) {
       if (forward) {
-        AppendStroke(direction, position, frame.strokeStart, frame.strokeEnd, coordinates);
+        AppendStroke<direction>(position, frame.strokeStart, frame.strokeEnd, coordinates);
       } else {
-        AppendStroke(direction, position, frame.strokeEnd, frame.strokeStart, coordinates);
+        AppendStroke<direction>(position, frame.strokeEnd, frame.strokeStart, coordinates);
       }
-      if (order == LineOrder::kAlternating) forward = !forward;
+      if (sense == LineSense::kAlternating) forward = !forward;
     }
   }
 }
+
+template DoubleCount MostLineDoubles<LineDirection::kHorizontal>(const RectList&, double);
+template DoubleCount MostLineDoubles<LineDirection::kVertical>(const RectList&, double);
+template void FillWithLines<LineDirection::kVertical, LineSense::kSame>(const RectList&, double,
+                                                                        CoordinateList&);
+template void FillWithLines<LineDirection::kHorizontal, LineSense::kAlternating>(const RectList&,
+                                                                                 double,
+                                                                                 CoordinateList&);
+template void FillWithLines<LineDirection::kVertical, LineSense::kAlternating>(const RectList&,
+                                                                               double,
+                                                                               CoordinateList&);
 
 DoubleCount CentreDoubles(std::size_t rects) {
   const DoubleCount count = static_cast<DoubleCount>(rects);
   return count > kMostDoubles / kDoublesPerPoint ? kUncountable : count * kDoublesPerPoint;
 }
 
-void FillWithCentres(const RectList& rects, CoordinateList& coordinates) {
+void FillWithCentres(const RectList& rects, double /*gap*/, CoordinateList& coordinates) {
   double* room = coordinates.RoomFor(kDoublesPerPoint * rects.Count());
   if (room == nullptr) return;
   for (const HatchRect& rect : rects) {

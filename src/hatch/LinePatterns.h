@@ -14,7 +14,7 @@
 namespace barhatch {
 
 enum class LineDirection { kHorizontal, kVertical };
-enum class LineOrder { kSameWay, kAlternating };
+enum class LineSense { kSame, kAlternating };
 
 // Hatching type 0: scan lines from left to right across all rectangles before the next line starts.
 // The y range is that of the first rectangle; the others are taken to have the same.
@@ -22,16 +22,17 @@ enum class LineOrder { kSameWay, kAlternating };
 DoubleCount MostScanLineDoubles(const RectList& rects, double gap);
 void FillWithScanLines(const RectList& rects, double gap, CoordinateList& coordinates);
 
-// Hatching types 1 (vertical, same way), 2 (horizontal, alternating) and 3 (vertical, alternating):
-// rectangle by rectangle. Alternation starts to the right or upwards and goes on from one rectangle
-// to the next.
-DoubleCount MostLineDoubles(const RectList& rects, double gap, LineDirection direction);
-void FillWithLines(const RectList& rects, double gap, LineDirection direction, LineOrder order,
-                   CoordinateList& coordinates);
+// Hatching types 1 (vertical, same sense), 2 (horizontal, alternating) and 3 (vertical,
+// alternating): rectangle by rectangle. The first line leads to the right or upwards; alternation
+// goes on from one rectangle to the next.
+template <LineDirection direction>
+DoubleCount MostLineDoubles(const RectList& rects, double gap);
+template <LineDirection direction, LineSense sense>
+void FillWithLines(const RectList& rects, double gap, CoordinateList& coordinates);
 
 // Hatching type 6: the centre of every rectangle; uses no gap.
 DoubleCount CentreDoubles(std::size_t rects);
-void FillWithCentres(const RectList& rects, CoordinateList& coordinates);
+void FillWithCentres(const RectList& rects, double gap, CoordinateList& coordinates);
 
 }  // namespace barhatch
 

@@ -4,7 +4,6 @@ namespace barhatch {
 
 namespace {
 
-constexpr DoubleCount kDoublesPerSegment = 4;
 constexpr DoubleCount kFirstSegments = 3;
 
 struct SpiralBounds {

@@ -11,7 +11,7 @@ using Corners = std::vector<double>;
 
 std::vector<Corners> Build(const char* row, FilledElements filled, double moduleSize = 1.0,
                            double ratio = 3.0, double barHeight = 1.0) {
-  RectList rects;
+  RectList rects(RuntimeMemory());
   BuildRects(row, {moduleSize, ratio * moduleSize, barHeight}, filled, rects);
   std::vector<Corners> corners;
   for (const HatchRect& r : rects) {
@@ -58,7 +58,7 @@ TEST(BuildRects, OtherCharactersNeitherCountNorAdvance) {
 }
 
 TEST(BuildRects, ReturnsTheEndOfTheRow) {
-  RectList rects;
+  RectList rects(RuntimeMemory());
   EXPECT_EQ(BuildRects("AaBa", {1.0, 3.0, 1.0}, FilledElements::kDark, rects), 6.0);
 }
 

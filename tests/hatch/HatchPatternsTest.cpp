@@ -24,15 +24,25 @@ RectList& Collect(RectList& list, const std::vector<PlainRect>& rects) {
   return list;
 }
 
-DoubleCount Most(const std::vector<PlainRect>& rects, int hatchingType, double gap) {
-  RectList list;
-  return MostDoubles(Collect(list, rects), {hatchingType, gap});
+DoubleCount Most(const std::vector<PlainRect>& rects, int type, double gap) {
+  const HatchPattern* pattern = PatternOf({type, gap, FilledElements::kDark});
+  if (pattern == nullptr) return 0;
+  if (pattern->most == nullptr) return CentreDoubles(rects.size());
+  RectList list(RuntimeMemory());
+  return pattern->most(Collect(list, rects), gap);
 }
 
-std::vector<double> Fill(const std::vector<PlainRect>& rects, int hatchingType, double gap) {
-  RectList list;
-  CoordinateList coordinates;
-  FillRects(Collect(list, rects), {hatchingType, gap}, coordinates);
+void FillInto(CoordinateList& coordinates, const std::vector<PlainRect>& rects, int type,
+              double gap) {
+  const HatchPattern* pattern = PatternOf({type, gap, FilledElements::kDark});
+  if (pattern == nullptr) return;
+  RectList list(RuntimeMemory());
+  pattern->fill(Collect(list, rects), gap, coordinates);
+}
+
+std::vector<double> Fill(const std::vector<PlainRect>& rects, int type, double gap) {
+  CoordinateList coordinates(RuntimeMemory());
+  FillInto(coordinates, rects, type, gap);
   return std::vector<double>(coordinates.begin(), coordinates.end());
 }
 
@@ -183,10 +193,9 @@ TEST(HatchPatterns, NoRectangleNeedsNoDoubles) {
 
 TEST(HatchPatterns, AListWithoutMemoryTakesNothing) {
   for (int type : {0, 1, 2, 3, 5, 6}) {
-    RectList list;
-    CoordinateList coordinates(std::numeric_limits<std::size_t>::max() / 8);
+    CoordinateList coordinates(RuntimeMemory(), std::numeric_limits<std::size_t>::max() / 8);
     ASSERT_TRUE(coordinates.HasFailed());
-    FillRects(Collect(list, {{0, 0, 1, 1}}), {type, g}, coordinates);
+    FillInto(coordinates, {{0, 0, 1, 1}}, type, g);
     EXPECT_EQ(coordinates.Count(), 0u) << type;
   }
 }

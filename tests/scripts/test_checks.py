@@ -52,7 +52,7 @@ class Includes(Copy):
         for header in ("iostream", "locale", "cctype", "functional", "stdexcept"):
             with self.subTest(header):
                 self.setUp()
-                self.refuses("src/hatch/Hatcher.cpp", "\n\n", f"\n#include <{header}>\n\n", f"<{header}> has no place")
+                self.refuses("src/api/Hatcher.cpp", "\n\n", f"\n#include <{header}>\n\n", f"<{header}> has no place")
 
     def test_a_forbidden_header_through_a_header_of_ours(self):
         self.refuses("src/job/ModuleString.h", "#ifndef", "#include <locale>\n#ifndef", "ModuleString.h: <locale>")
@@ -61,10 +61,10 @@ class Includes(Copy):
         self.refuses("include/barhatch.h", "#include <stdint.h>", "#include <ctype.h>", "barhatch.h: <ctype.h>")
 
     def test_exceptions(self):
-        self.refuses("src/hatch/Hatcher.cpp", "if (modules == 0.0) return nullptr;", "if (modules == 0.0) throw 1;", "throw")
+        self.refuses("src/api/Hatcher.cpp", "if (modules == 0.0) return nullptr;", "if (modules == 0.0) throw 1;", "throw")
 
     def test_the_word_throw_in_a_comment_or_a_text_is_no_exception(self):
-        self.change("src/hatch/Hatcher.cpp", "\n\n", '\n// We never throw.\n[[maybe_unused]] auto t = "throw /*";\n')
+        self.change("src/api/Hatcher.cpp", "\n\n", '\n// We never throw.\n[[maybe_unused]] auto t = "throw /*";\n')
         self.expect("check-includes")
 
     def includes(self, name, header, complaint=None):
@@ -74,7 +74,8 @@ class Includes(Copy):
 
     def test_arrows_that_run_up_or_to_a_neighbour(self):
         for name, header in (("src/job/Job.h", "symbologies/SymbologyTable.h"), ("src/job/Memory.h", "barhatch.h"),
-                             ("src/hatch/Hatcher.cpp", "datamatrix/DataMatrix.h"),
+                             ("src/hatch/Hatch.cpp", "datamatrix/DataMatrix.h"), ("src/hatch/Hatch.cpp", "barhatch.h"),
+                             ("src/hatch/Hatch.cpp", "api/Hatcher.h"),
                              ("src/hatch/HatchGrid.h", "symbologies/SymbologyTable.h"),
                              ("src/hatch/HatchGrid.h", "mark/Mark.h"), ("src/datamatrix/SymbolGrid.cpp", "hatch/Hatch.h"),
                              ("src/symbologies/CyclicWeights.h", "api/Ownership.h"),
@@ -100,7 +101,7 @@ class Includes(Copy):
                 self.mark(header, "is not for src/mark")
 
     def test_the_exports_open_no_door_of_the_floor_below_mark(self):
-        for header in ("hatch/Hatch.h", "symbologies/SymbologyTable.h", "datamatrix/DataMatrix.h", "barhatch_mark.h"):
+        for header in ("hatch/StrokeLengths.h", "symbologies/SymbologyTable.h", "datamatrix/DataMatrix.h", "barhatch_mark.h"):
             with self.subTest(header):
                 self.setUp()
                 self.includes("src/api/LinearExports.cpp", header, "is not for src/api")
@@ -305,7 +306,7 @@ class Cppcheck(unittest.TestCase):
 
 class Coverage(unittest.TestCase):
     """The verdict alone: its input is what the tool reports for each line."""
-    NAME = "src/hatch/FillBuffer.cpp"
+    NAME = "src/api/FillBuffer.cpp"
 
     def judge(self, *counts):
         path = str(ROOT / "scripts/coverage")

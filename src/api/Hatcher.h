@@ -1,7 +1,7 @@
 // From module strings to fill buffers, by the settings: scaling to the size the host asked for,
 // rectangles, pattern.
-#ifndef BARHATCH_HATCH_HATCHER_H
-#define BARHATCH_HATCH_HATCHER_H
+#ifndef BARHATCH_API_HATCHER_H
+#define BARHATCH_API_HATCHER_H
 
 #include "barhatch.h"
 

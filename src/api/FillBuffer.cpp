@@ -1,6 +1,6 @@
-#include "hatch/FillBuffer.h"
+#include "api/FillBuffer.h"
 
-#include <new>
+#include "api/Ownership.h"
 
 namespace barhatch {
 
@@ -8,15 +8,14 @@ namespace {
 
 constexpr std::int32_t kLineSegments = 0;
 constexpr std::int32_t kPoints = 2;
-constexpr std::int32_t kHatchingTypeOfPoints = 6;
 
 }  // namespace
 
-FillBufferInfo* MakeFillBuffer(CoordinateList& coordinates, std::int32_t hatchingType) {
+FillBufferInfo* MakeFillBuffer(CoordinateList& coordinates, FillingShape shape) {
   if (coordinates.HasFailed() || coordinates.Count() == 0) return nullptr;
-  FillBufferInfo* fill = new (std::nothrow) FillBufferInfo{};
+  FillBufferInfo* fill = NewFillBuffer();
   if (fill == nullptr) return nullptr;
-  fill->FillingShapeType = hatchingType == kHatchingTypeOfPoints ? kPoints : kLineSegments;
+  fill->FillingShapeType = shape == FillingShape::kPoints ? kPoints : kLineSegments;
   fill->BufferLength = static_cast<std::int32_t>(coordinates.Count());
   fill->FilledArray = coordinates.Release();
   return fill;

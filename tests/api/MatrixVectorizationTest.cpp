@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "api/BarcodeSettings.h"
-#include "hatch/Hatcher.h"
+#include "api/Hatcher.h"
 #include "support/Fills.h"
 #include "support/PlainHatcher.h"
 #include "support/SettingsFixture.h"

@@ -1,4 +1,4 @@
-#include "hatch/Hatcher.h"
+#include "api/Hatcher.h"
 
 #include <gtest/gtest.h>
 

@@ -6,8 +6,8 @@
 #include <limits>
 #include <vector>
 
+#include "api/Hatcher.h"
 #include "barhatch.h"
-#include "hatch/Hatcher.h"
 #include "support/Fills.h"
 #include "support/SettingsFixture.h"
 
