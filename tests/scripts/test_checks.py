@@ -194,7 +194,7 @@ class Deviations(Copy):
 
 
 class Functions(Copy):
-    NAME = "src/hatch/Hatcher.cpp"
+    NAME = "src/hatch/Hatch.cpp"
 
     def add(self, functions):
         path = self.root / self.NAME
