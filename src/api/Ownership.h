@@ -4,8 +4,8 @@
 //   given to the host   allocated in                     as                    released by
 //   -----------------   ------------------------------   -------------------   --------------------
 //   module string       ModuleStringBuilder              new char[]            the host's delete[]
-//   FillBufferInfo      FillBuffer, NewFillBuffer        new FillBufferInfo    FreeBarcodeData
-//   its FilledArray     GrowableArray                    new double[]          FreeBarcodeData
+//   FillBufferInfo      NewFillBuffer                    new FillBufferInfo    FreeBarcodeData
+//   its FilledArray     Hatcher, by RuntimeMemory        operator new[]        FreeBarcodeData
 //
 // Inside, a TwoDStringResult (SymbolGrid: new, its data new[]) goes to Free2DBarcodeStringResult
 // and a module string that no host sees to ReleaseModuleString.
