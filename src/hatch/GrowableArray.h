@@ -15,7 +15,7 @@ namespace barhatch {
 
 template <typename T>
 class GrowableArray {
-  static_assert(std::is_trivial_v<T>, "elements are neither constructed nor destroyed");
+  static_assert(std::is_trivially_copyable_v<T>, "elements are neither constructed nor destroyed");
 
  public:
   static constexpr std::size_t kInitialCapacity = 16;

@@ -9,7 +9,6 @@
 namespace barhatch {
 
 struct HatchPoint {
-  HatchPoint() = default;
   constexpr HatchPoint(double pointX, double pointY) : y(pointY), x(pointX) {}
 
   double y;
@@ -19,7 +18,6 @@ struct HatchPoint {
 // A filled element. An element of negative width (a host may ask for one) has its upper-right
 // corner left of its lower-left one.
 struct HatchRect {
-  HatchRect() = default;
   constexpr HatchRect(double x0, double y0, double x1, double y1)
       : lowerLeft(x0, y0), upperRight(x1, y1) {}
 
@@ -35,7 +33,7 @@ struct HatchRect {
   HatchPoint upperRight;
 };
 
-static_assert(std::is_trivial_v<HatchRect> && sizeof(HatchRect) == 32, "arrays of plain values");
+static_assert(std::is_trivially_copyable_v<HatchRect> && sizeof(HatchRect) == 32, "a plain value");
 
 }  // namespace barhatch
 
