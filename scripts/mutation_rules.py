@@ -9,7 +9,7 @@ import re
 
 from mutation_sources import HIDDEN, NUMBER, Mutant, bodies, next_numbers, product, visible
 
-CONSTANT = re.compile(r"\b(?:constexpr|const) (?:[\w:<>, ]+?[*&]? )(\w+)(?:\[[^\]]*\])* =\s+")
+CONSTANT = re.compile(r"\b(?:constexpr|const) (?:[\w:<>, ]+?[*&]? )(\w+)(?:\[[^\]]*\])*(?: =\s+|(?=\{))")
 VALUE = re.compile(r"\b(\w+) = (?=-?\d|true\b|false\b)[^;,}\s\x00]+(?=[;,\s}])")
 ENUMERATION = re.compile(r"\benum (?:class )?(\w+)[^{;()]*\{([^}]*)\}")
 NEIGHBOURS = re.compile(r"(?=(?<![\w.])(\d+)(, +)(\d+)(?![\w.]))")

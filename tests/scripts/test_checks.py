@@ -366,9 +366,11 @@ constexpr Row kRows[] = {
     def test_constants_and_first_values(self):
         self.assertEqual(self.found_in('constexpr int kMost =\n    13 + sizeof(int[3]);\n'
                                        'inline constexpr char kGuard[] = "101";\n'
+                                       'const Limit kLimit{8, "ab"};\n'
                                        'struct Sum { int sum = 4; bool isWhole = true; };\n'),
                          ["kMost: 13 -> 12", "kMost: 13 -> 14", "kGuard: 101 -> 001", "kGuard: 101 -> 100",
-                          "kGuard: 101 -> 111", "sum: 4 -> 3", "sum: 4 -> 5", "isWhole: true -> false"])
+                          "kGuard: 101 -> 111", "kLimit row 0: 8 -> 7", "kLimit row 0: 8 -> 9", "kLimit rows 0 and 1: change places",
+                          "kLimit row 1: ab -> aa", "kLimit row 1: ab -> ba", "sum: 4 -> 3", "sum: 4 -> 5", "isWhole: true -> false"])
 
     def test_texts_and_enumerators_in_functions(self):
         self.assertEqual(self.found_in('enum class Way { kUp, kDown };\nWay Of(char c) {\n'
