@@ -376,10 +376,17 @@ constexpr Row kRows[] = {
         self.assertEqual(self.found_in('enum class Way { kUp, kDown };\nWay Of(char c) {\n'
                                        '  assert(c != 0 && "why");\n  switch (F(c, "ab")) { case Way::kUp: break; }\n'
                                        "  return c == 'x' ? Way::kUp : G(7);\n}\n"),
-                         ["text: ab -> a", "text: ab -> ab!", "text: ab -> b", "character: x -> y", "value: Way::kUp -> Way::kDown"])
+                         ["Of text: ab -> a", "Of text: ab -> ab!", "Of text: ab -> b", "Of character: x -> y",
+                          "Of value: Way::kUp -> Way::kDown"])
 
     def test_a_proof_is_no_product(self):
         self.assertEqual(self.found_in('constexpr bool Holds() { return F("01"); }\nstatic_assert(Holds(), "11");\n'), [])
+
+    def test_a_reason_may_name_the_line(self):
+        self.change("src/symbologies/Code128Symbologies.cpp", "  for (; *text != '\\0' && TakesMoreText(symbol); ++text) {\n"
+                    "    AppendCharacter(symbol, *text);\n    if (set == CodeSet::kA && NeedsSetB(text[1])) {\n"
+                    "      Append(symbol, kCode128SwitchToB);  // D-128-4\n      set = CodeSet::kB;", "set = CodeSet::kA;")
+        self.assertIn("outlived its code: Code128Symbologies.cpp AppendFromSetA", self.list_of().stdout)
 
     def test_a_reason_whose_cell_is_gone(self):
         self.change("src/datamatrix/Encodation.cpp", "kLatchCodewords[]", "kLatches[]")
