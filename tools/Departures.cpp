@@ -130,19 +130,19 @@ constexpr Departure kDepartures[] = {
      "FNC1",
      Effect::kMayReadOtherwise},
     {"D-DM-7",
-     "where one more codeword would fill the smallest square that holds more than those written, "
-     "C40, Text and X12 are left without 254 for another mode, and they and EDIFACT at the end "
-     "of the text: whatever the symbol and whatever follows",
+     "behind whole groups of values, where one more codeword would fill the smallest square that "
+     "holds more than those written, C40, Text and X12 are left without 254 for another mode, and "
+     "they and EDIFACT at the end of the text: whatever the symbol and whatever follows",
      "what follows is read as data of the mode that was left: wrong text behind the right "
      "beginning (at the end of the text: the pads as characters)",
      Effect::kMayReadOtherwise},
     {"D-DM-8",
      "at the end of a text in C40, Text, X12 or EDIFACT the unlatch is written also where the "
-     "symbol would be full without it: behind a whole group; in C40, Text and X12 in front of one "
-     "character that would fill a rectangle of 10, 16, 32 or 49 codewords; in C40 and Text in "
-     "front of characters whose values would fill the last two codewords, with a pad or without",
-     "nothing: the next symbol size, a refusal where that does not suit the request or does not "
-     "exist, or a rectangle whose last codeword is the unlatch",
+     "symbol would be full without it: behind a whole group; in C40 and Text where the group that "
+     "ends the text leaves values over, and where one or two characters behind the last group "
+     "have, with the values that wait, more than three",
+     "nothing: as a rule the next symbol size, a refusal where that does not suit the request or "
+     "does not exist, or a rectangle whose last codeword is the unlatch",
      Effect::kReadsAlike},
     {"D-DM-9", "EDIFACT writes the low six bits of any character",
      "another character with the same six bits (! for a); from _ and the bytes 31, 159 and 223 "

@@ -1,5 +1,6 @@
 #include "MatrixOutline.h"
 
+#include <algorithm>
 #include <string>
 #include <vector>
 
@@ -105,6 +106,12 @@ class Outliner {
     return ahead;
   }
 
+  // After a group: characters remain, and no designator stands among the next so many.
+  bool GoesOn(std::size_t at, std::size_t group) const {
+    const std::size_t next = std::min(units_.size() - at, group);
+    return next > 0 && DataAhead(at, group) == next;
+  }
+
   void Unlatch() {
     if (mode_ == MatrixMode::kEdifact) edifactUnlatches_.push_back(codewords_);
     ++codewords_;
@@ -116,8 +123,7 @@ class Outliner {
         if (units_[position_] < u' ' || units_[position_] > u'^') Meet(9);
       }
       codewords_ += 3;
-      const bool goesOn = DataAhead(position_, kEdifactGroup) == kEdifactGroup;
-      const MatrixMode mode = goesOn ? Ask(position_) : mode_;
+      const MatrixMode mode = GoesOn(position_, kEdifactGroup) ? Ask(position_) : mode_;
       if (mode == mode_) continue;
       Unlatch();
       return Latch(mode);
@@ -153,18 +159,26 @@ class Outliner {
   void WriteTriples() {
     std::size_t end = position_;
     while (DataAhead(end, kTriple) == kTriple) {
-      const MatrixMode mode = end > position_ ? Ask(end) : mode_;
-      if (mode != mode_) return LeaveTriples(end, mode);
       if (mode_ == MatrixMode::kX12 && !HasX12Group(end)) return LeaveX12(end);
       end += kTriple;
+      const MatrixMode mode = GoesOn(end, kTriple) ? Ask(end) : mode_;
+      if (mode != mode_) return LeaveTriples(end, mode);
     }
     const std::size_t restEnd = end + DataAhead(end, kTriple);
+    if (restEnd == units_.size() && Finishes(end)) return PackUntil(restEnd);
     // A last character that would leave values over ends the text in ASCII.
     if (restEnd == units_.size()) codewordsByTheBook_ = CodewordsByTheBook();
     const bool isWhole = end == restEnd && restEnd == units_.size();
     if (isWhole && ValuesBetween(position_, end) % 3 != 0) --end;
     PackUntil(LastPlaceToLeave(end));
     EndStretch(restEnd);
+  }
+
+  // One or two characters behind the groups whose values fill the symbol, with those left over.
+  bool Finishes(std::size_t end) const {
+    if (mode_ == MatrixMode::kX12 || end == units_.size()) return false;
+    const std::size_t last = ValuesBetween(position_, end) % 3 + ValuesBetween(end, units_.size());
+    return (last == 2 || last == 3) && CapacityFor(CodewordsByTheBook()) == CodewordsByTheBook();
   }
 
   // Of a symbol that the rest of the text, all of it in this mode, fills without an unlatch; -1
@@ -181,8 +195,9 @@ class Outliner {
   }
 
   void LeaveTriples(std::size_t end, MatrixMode mode) {
+    const bool isWhole = ValuesBetween(position_, end) % 3 == 0;
     PackUntil(LastPlaceToLeave(end));
-    if (position_ == end && IsOneBelowSquare()) {
+    if (isWhole && IsOneBelowSquare()) {
       Meet(7);
     } else {
       Unlatch();
@@ -223,8 +238,7 @@ class Outliner {
     const int rest = AsciiCodewords(position_, units_.size());
     const int capacity = CapacityFor(codewords_ + rest);
     if (mode_ == MatrixMode::kEdifact) return capacity != 0 && capacity - codewords_ <= 2;
-    return units_.size() - position_ == 1 && rest == 1 && IsOneBelowSquare() &&
-           capacity == codewords_ + 1;
+    return units_.size() - position_ == 1 && rest == 1 && capacity == codewords_ + 1;
   }
 
   void Conclude() {

@@ -29,27 +29,52 @@ class TripleWriter {
     return true;
   }
 
-  // Takes the group at the position, without the last character of the text where that one would
-  // leave values over: then the text is going to end in ASCII.
+  // Takes the group at the position. The last character of the text waits where it leaves values
+  // over: then the text is going to end in ASCII.
   void TakeGroup() {
     for (std::size_t i = 0; i < kGroup; ++i) {
-      const int values = (values_ + ValuesAt(state_.position).count) % 3;
-      if (state_.position + 1 == state_.length && values != 0) return;
-      values_ = values;
+      values_ = (values_ + ValuesAt(state_.position).count) % 3;
       ++state_.position;
-      if (values_ != 1) WriteUntil(state_.position);
+      const bool isLast = state_.position == state_.length;
+      if (values_ == 0 || (values_ == 2 && !isLast)) WriteUntil(state_.position);
     }
+  }
+
+  // True when the characters taken are whole groups of values: nothing waits, no pad is missing.
+  bool IsWhole() const { return values_ == 0; }
+
+  // True when the values that wait and those of the characters left, one or two, fill the last two
+  // codewords of the finished symbol, with a pad or without. X12 has no pad.
+  bool FillsSymbol() const {
+    if (set_ == CharacterSet::kX12) return false;
+    const int left = ValuesBetween(state_.position, state_.length);
+    if (values_ + left != 2 && values_ + left != 3) return false;
+    const int waiting = queued_ + ValuesBetween(written_, state_.position);
+    return IsSymbolFull(state_, state_.codewords.Count() + waiting / 3 * 2 + 2);
+  }
+
+  // Takes all characters left, and the pad that may be missing behind them.
+  void Finish() {
+    state_.position = state_.length;
+    WriteUntil(state_.length);
+    FillUp();
   }
 
   // Fills the last codewords and takes back the characters that wait.
   void Close() {
-    if (queued_ == 2) Queue(kPadValue);
+    FillUp();
     state_.position = written_;
   }
 
  private:
   CharacterValues ValuesAt(std::size_t index) const {
     return ValuesOf(set_, state_.text[index] & 0xFF);
+  }
+
+  int ValuesBetween(std::size_t begin, std::size_t end) const {
+    int values = 0;
+    for (std::size_t i = begin; i < end; ++i) values += ValuesAt(i).count;
+    return values;
   }
 
   void WriteUntil(std::size_t end) {
@@ -68,6 +93,10 @@ class TripleWriter {
     queued_ = 0;
   }
 
+  void FillUp() {
+    if (queued_ == 2) Queue(kPadValue);
+  }
+
   EncodationState& state_;
   CharacterSet set_;
   std::size_t written_;  // end of the characters whose values are written or queued
@@ -76,12 +105,12 @@ class TripleWriter {
   int queued_ = 0;
 };
 
-// The look-ahead says another mode. Without characters taken back the unlatch falls under D-DM-7.
+// The look-ahead says another mode. Behind whole groups alone the unlatch falls under D-DM-7.
 void LeaveFor(EncodationState& state, TripleWriter& writer, Mode mode) {
   const std::size_t end = state.position;
+  const bool isWhole = writer.IsWhole();
   writer.Close();
-  // cppcheck-suppress knownConditionTrueFalse ; Close takes characters back
-  if (state.position < end || !IsOneBelowSquareCapacity(state)) {
+  if (!isWhole || !IsOneBelowSquareCapacity(state)) {
     state.codewords.Append(UnlatchCodeword(state.mode));
   }
   EncodeAsciiUntil(state, end);
@@ -95,24 +124,28 @@ void LeaveWithGroup(EncodationState& state) {
   EnterMode(state, Mode::kAscii);
 }
 
+// ahead: characters that follow, fewer than a group.
+void EndTriples(EncodationState& state, TripleWriter& writer, std::size_t ahead) {
+  const std::size_t restEnd = state.position + ahead;
+  if (ahead > 0 && restEnd == state.length && writer.FillsSymbol()) return writer.Finish();
+  writer.Close();
+  EndStretch(state, restEnd);
+}
+
 }  // namespace
 
 void EncodeTriples(EncodationState& state) {
   TripleWriter writer(state, SetOf(state.mode));
-  bool isFirst = true;
-  while (CharactersAhead(state, kGroup) == kGroup) {
-    if (!isFirst) {
-      const Mode mode = state.lookAhead.ModeFor(state.position, state.mode);
-      if (mode != state.mode) return LeaveFor(state, writer, mode);
-    }
+  std::size_t ahead = CharactersAhead(state, kGroup);
+  while (ahead == kGroup) {
     if (state.mode == Mode::kX12 && !writer.HasGroup()) return LeaveWithGroup(state);
     writer.TakeGroup();
     if (state.codewords.HasOverflowed()) return;
-    isFirst = false;
+    ahead = CharactersAhead(state, kGroup);
+    const Mode mode = ModeBehindGroup(state, ahead, kGroup);
+    if (mode != state.mode) return LeaveFor(state, writer, mode);
   }
-  const std::size_t restEnd = state.position + CharactersAhead(state, kGroup);
-  writer.Close();
-  EndStretch(state, restEnd);
+  EndTriples(state, writer, ahead);
 }
 
 }  // namespace barhatch

@@ -21,20 +21,18 @@ void EncodeGroup(EncodationState& state) {
 }  // namespace
 
 void EncodeEdifact(EncodationState& state) {
-  bool isFirst = true;
-  while (CharactersAhead(state, kGroup) == kGroup) {
-    if (!isFirst) {
-      const Mode mode = state.lookAhead.ModeFor(state.position, Mode::kEdifact);
-      if (mode != Mode::kEdifact) {
-        state.codewords.Append(UnlatchCodeword(Mode::kEdifact));
-        return EnterMode(state, mode);
-      }
-    }
+  std::size_t ahead = CharactersAhead(state, kGroup);
+  while (ahead == kGroup) {
     EncodeGroup(state);
     if (state.codewords.HasOverflowed()) return;
-    isFirst = false;
+    ahead = CharactersAhead(state, kGroup);
+    const Mode mode = ModeBehindGroup(state, ahead, kGroup);
+    if (mode != Mode::kEdifact) {
+      state.codewords.Append(UnlatchCodeword(Mode::kEdifact));
+      return EnterMode(state, mode);
+    }
   }
-  EndStretch(state, state.position + CharactersAhead(state, kGroup));
+  EndStretch(state, state.position + ahead);
 }
 
 }  // namespace barhatch

@@ -51,15 +51,13 @@ int SymbolCapacity(const EncodationState& state, int codewords) {
 }
 
 // A symbol with one codeword left for C40, Text or X12, or at most two for EDIFACT, goes on in
-// ASCII. D-DM-8: for the three only at a square capacity, published in every symbol; and two
-// codewords left are never filled in C40 or Text, with a pad where one value is missing.
+// ASCII.
 bool SymbolImpliesUnlatch(const EncodationState& state) {
   const int count = state.codewords.Count();
   const int rest = AsciiCodewordsUntil(state, state.length);
   const int capacity = SymbolCapacity(state, count + rest);
   if (state.mode == Mode::kEdifact) return capacity != 0 && capacity - count <= 2;
-  return state.length - state.position == 1 && rest == 1 && IsOneBelowSquareCapacity(state) &&
-         capacity == count + 1;
+  return state.length - state.position == 1 && rest == 1 && capacity == count + 1;
 }
 
 bool NeedsUnlatch(const EncodationState& state, std::size_t restEnd) {
@@ -79,6 +77,11 @@ std::size_t CharactersAhead(const EncodationState& state, std::size_t limit) {
   return ahead;
 }
 
+Mode ModeBehindGroup(EncodationState& state, std::size_t ahead, std::size_t group) {
+  const bool isAsked = ahead == group || (ahead > 0 && state.position + ahead == state.length);
+  return isAsked ? state.lookAhead.ModeFor(state.position, state.mode) : state.mode;
+}
+
 int UnlatchCodeword(Mode mode) { return mode == Mode::kEdifact ? kEdifactUnlatch : kTripleUnlatch; }
 
 void EnterMode(EncodationState& state, Mode mode) {
@@ -90,6 +93,10 @@ void EnterMode(EncodationState& state, Mode mode) {
 bool IsOneBelowSquareCapacity(const EncodationState& state) {
   const int count = state.codewords.Count();
   return count + 1 == SquareCapacityAbove(count);
+}
+
+bool IsSymbolFull(const EncodationState& state, int codewords) {
+  return SymbolCapacity(state, codewords) == codewords;
 }
 
 void EndStretch(EncodationState& state, std::size_t restEnd) {

@@ -169,6 +169,14 @@ TEST(DataMatrixDeviations, DDM7UnlatchIsLeftOutOneBelowASquareCapacityInMidText)
   EXPECT_EQ(Encoded(upper + "aaaaaa"), "230 91 11 91 11 91 11 91 11 91 11 239 89 191 89 191 254");
 }
 
+// 15 139 197 63 156 187 27 82 113 26 242 27 24 15 184 17: the last value of 16 codewords is a pad.
+TEST(DataMatrixDeviations, DDM7BehindAPadTheUnlatchIsWrittenAlways) {
+  const std::string text = "Serial Date type type MADE";
+  EXPECT_EQ(Encoded(text),
+            "239 15 139 197 63 156 187 27 82 113 26 242 27 24 15 184 17 254 230 22 223 254 69 70");
+  EXPECT_EQ(ReadIn(30, text), ItemsOf(text));
+}
+
 TEST(DataMatrixDeviations, DDM8TextThatFillsASymbolGetsItsUnlatchAndTheNextSize) {
   // 236 and 230, three groups: 8 codewords, which would fill 14 x 14.
   EXPECT_EQ(Encoded("AIMAIMAIM", 2), "236 230 91 11 91 11 91 11 254");
@@ -184,24 +192,12 @@ TEST(DataMatrixDeviations, DDM8UnlatchMayBeTheLastCodewordOfARectangle) {
   EXPECT_EQ(ReadIn(10, text, 0, {8, 32, 0}), ItemsOf(text));
 }
 
-// Published: 'A' in ASCII as the tenth codeword, without an unlatch, and 8 x 32 is full.
-TEST(DataMatrixDeviations, DDM8OneCharacterForTheLastCodewordOfARectangleIsUnlatchedFor) {
-  const std::string text = "AIMAIMAIMAIMA";
-  EXPECT_EQ(Encoded(text, 0, {8, 32, 0}), "230 91 11 91 11 91 11 91 11 254 66");
-  EXPECT_EQ(ReadIn(12, text, 0, {16, 16, 0}), ItemsOf(text));
-  SymbolSize chosen{};
-  EXPECT_TRUE(ChooseSymbolSize(10, {8, 32, 0}, chosen));
-  EXPECT_FALSE(ChooseSymbolSize(11, {8, 32, 0}, chosen));
-}
-
-// Published: 142 230 91 11 91 11 and the group 14 22 0 (a pad), 90 241, fill 14 x 14.
-TEST(DataMatrixDeviations, DDM8TwoCharactersForTheLastTwoCodewordsAreUnlatchedFor) {
-  EXPECT_EQ(Encoded("12AIMAIMAI"), "142 230 91 11 91 11 254 66 74");
-  EXPECT_EQ(Encoded("12aimaimai"), "142 239 91 11 91 11 254 98 106");
-  EXPECT_EQ(ReadIn(12, "12AIMAIMAI"), ItemsOf("12AIMAIMAI"));
-  SymbolSize chosen{};
-  EXPECT_TRUE(ChooseSymbolSize(8, {14, 14, 0}, chosen));
-  EXPECT_FALSE(ChooseSymbolSize(9, {14, 14, 0}, chosen));
+// "Aaa" is 14 2 1 | 2 1. Published: 14 2 1 and 2 1 0 (a pad), 87 210 12 169, where they fill the
+// symbol; the last character goes out in ASCII instead. The symbol is the same, as 254 98 is no
+// longer.
+TEST(DataMatrixDeviations, DDM8LastCharacterOfAGroupThatLeavesValuesOverIsUnlatchedFor) {
+  EXPECT_EQ(Encoded("11AIMAIMAIMAaa"), "141 230 91 11 91 11 91 11 87 210 254 98");
+  EXPECT_EQ(ReadIn(12, "11AIMAIMAIMAaa"), ItemsOf("11AIMAIMAIMAaa"));
 }
 
 TEST(DataMatrixDeviations, DDM8TextThatFillsTheLargestSymbolOverflows) {

@@ -58,51 +58,96 @@ TEST(EndOfTriples, NothingLeftUnlatchIsLeftOutOneBelowEverySquareCapacityAlone) 
   }
 }
 
+// Two codewords, values and a pad, that fill a square behind `count` codewords; "" where they do
+// not, or X12 has no pad.
+std::string Finish(Mode mode, int count, const std::string& codewords) {
+  return mode != Mode::kX12 && IsSquareCapacity(count + 2) ? codewords : "";
+}
+
+std::string Either(const std::string& finish, const std::string& otherwise) {
+  return finish.empty() ? otherwise : finish;
+}
+
+// In C40 "A" is one value, in Text two: 2 1 0 = 3241 = 12 169.
 TEST(EndOfTriples, OneCharacterLeftNeedsNoUnlatchWhenItFillsTheSymbol) {
   for (const Mode mode : kTripleModes) {
     for (int count = 0; count < 1557; ++count) {
-      EXPECT_EQ(Ending(mode, count, "A"), IsSquareCapacity(count + 1) ? "66" : "254 66") << count;
+      const std::string finish = mode == Mode::kText ? Finish(mode, count, "12 169") : "";
+      EXPECT_EQ(Ending(mode, count, "A"),
+                Either(finish, IsSquareCapacity(count + 1) ? "66" : "254 66"))
+          << count;
     }
     EXPECT_EQ(Ending(mode, 1557, "A"), "66");
     EXPECT_EQ(Ending(mode, 1558, "A"), "overflow");
   }
 }
 
+// In Text the byte is three values, 1 30 22 = 2823 = 11 7, in C40 four.
 TEST(EndOfTriples, OneCharacterOfTwoCodewordsIsUnlatchedFor) {
   for (const Mode mode : kTripleModes) {
     for (int count = 0; count <= 1555; ++count) {
-      EXPECT_EQ(Ending(mode, count, "\xE9"), "254 235 105") << count;
+      const std::string finish = mode == Mode::kText ? Finish(mode, count, "11 7") : "";
+      EXPECT_EQ(Ending(mode, count, "\xE9"), Either(finish, "254 235 105")) << count;
     }
-    EXPECT_EQ(Ending(mode, 1556, "\xE9"), "overflow");
+    EXPECT_EQ(Ending(mode, 1556, "\xE9"), mode == Mode::kText ? "11 7" : "overflow");
   }
 }
 
-TEST(EndOfTriples, TwoCharactersLeftAreUnlatchedFor) {
+// "AB" is 14 15 0 = 23001 = 89 217 in C40, four values in Text; "12" is 5 6 0 = 8241 = 32 49 in
+// both.
+TEST(EndOfTriples, TwoCharactersLeftFinishInTheModeOrAreUnlatchedFor) {
   for (const Mode mode : kTripleModes) {
     for (int count = 0; count <= 1555; ++count) {
-      EXPECT_EQ(Ending(mode, count, "AB"), "254 66 67") << count;
-      EXPECT_EQ(Ending(mode, count, "12"), "254 142") << count;
+      const std::string finish = mode == Mode::kC40 ? Finish(mode, count, "89 217") : "";
+      EXPECT_EQ(Ending(mode, count, "AB"), Either(finish, "254 66 67")) << count;
+      EXPECT_EQ(Ending(mode, count, "12"), Either(Finish(mode, count, "32 49"), "254 142"))
+          << count;
     }
-    EXPECT_EQ(Ending(mode, 1556, "AB"), "overflow");
-    EXPECT_EQ(Ending(mode, 1556, "12"), "254 142");
+    EXPECT_EQ(Ending(mode, 1556, "AB"), mode == Mode::kC40 ? "89 217" : "overflow");
+    EXPECT_EQ(Ending(mode, 1556, "12"), mode == Mode::kX12 ? "254 142" : "32 49");
     EXPECT_EQ(Ending(mode, 1557, "12"), "overflow");
   }
 }
 
-// The unlatch is implied at the end of the symbol and not at a capacity that the symbol passes
-// over.
-TEST(EndOfTriples, RequestForALargerSymbolKeepsTheUnlatchOfOneCharacter) {
+// The unlatch is implied at the end of the symbol, a rectangle too, and not at a capacity that the
+// symbol passes over.
+TEST(EndOfTriples, RequestDecidesWhereOneCharacterFillsTheSymbol) {
   for (const Mode mode : kTripleModes) {
     EXPECT_EQ(Ending(mode, 7, "A", {14, 14, 0}), "66");
     EXPECT_EQ(Ending(mode, 7, "A", {16, 16, 0}), "254 66");
     EXPECT_EQ(Ending(mode, 7, "A", {144, 144, 0}), "254 66");
-    EXPECT_EQ(Ending(mode, 4, "A", {8, 18, 0}), "66");       // 5 in the rectangle as in 12 x 12
-    EXPECT_EQ(Ending(mode, 7, "A", {8, 32, 0}), "254 66");   // 10
-    EXPECT_EQ(Ending(mode, 9, "A", {8, 32, 0}), "254 66");   // 10 is no square capacity
+    EXPECT_EQ(Ending(mode, 4, "A", {8, 18, 0}), "66");      // 5 in the rectangle as in 12 x 12
+    EXPECT_EQ(Ending(mode, 7, "A", {8, 32, 0}), "254 66");  // 10
+    EXPECT_EQ(Ending(mode, 9, "A", {8, 32, 0}), "66");
+    EXPECT_EQ(Ending(mode, 15, "A", {12, 26, 0}), "66");     // 16
     EXPECT_EQ(Ending(mode, 21, "A", {12, 36, 0}), "66");     // 22 in both
+    EXPECT_EQ(Ending(mode, 31, "A", {16, 36, 0}), "66");     // 32
+    EXPECT_EQ(Ending(mode, 48, "A", {16, 48, 0}), "66");     // 49
     EXPECT_EQ(Ending(mode, 61, "A", {8, 18, 1}), "66");      // has become 32 x 32
     EXPECT_EQ(Ending(mode, 61, "A", {8, 18, 2}), "254 66");  // refused
   }
+}
+
+TEST(EndOfTriples, RequestDecidesWhereTwoCharactersFillTheSymbol) {
+  for (const Mode mode : {Mode::kC40, Mode::kText}) {
+    EXPECT_EQ(Ending(mode, 6, "12", {14, 14, 0}), "32 49");
+    EXPECT_EQ(Ending(mode, 6, "12", {16, 16, 0}), "254 142");
+    EXPECT_EQ(Ending(mode, 6, "12", {8, 32, 0}), "254 142");
+    EXPECT_EQ(Ending(mode, 8, "12", {8, 32, 0}), "32 49");
+    EXPECT_EQ(Ending(mode, 47, "12", {16, 48, 0}), "32 49");
+    EXPECT_EQ(Ending(mode, 60, "12", {8, 18, 1}), "32 49");    // has become 32 x 32
+    EXPECT_EQ(Ending(mode, 60, "12", {8, 18, 2}), "254 142");  // refused
+  }
+}
+
+// In front of a designator nothing ends.
+TEST(EndOfTriples, OnlyTheEndOfTheTextIsFinishedInTheMode) {
+  EXPECT_EQ(Ending(Mode::kC40, 6, "12"), "32 49");
+  CodewordBuffer buffer;
+  EncodationState state(u"12\u0100", 3, {14, 14, 1}, buffer);
+  state.mode = Mode::kC40;
+  EncodeTriples(state);
+  EXPECT_EQ(test::InDecimal(test::CodewordsOf(buffer)), "254 142");
 }
 
 TEST(EndOfTriples, DroppedByteNeedsTheUnlatch) {
@@ -139,6 +184,26 @@ TEST(EndOfShiftedTriples, CharacterTakenBackMayFillTheSymbol) {
   // 9 codewords, 89 177, one more makes 12: the unlatch is implied.
   EXPECT_EQ(Ending(Mode::kC40, 9, "AAa"), "89 177 98");
   EXPECT_EQ(Ending(Mode::kC40, 9, "AAa", {18, 18, 0}), "89 177 254 98");
+}
+
+// Values that wait and those of the characters left, where they fill the symbol of 14 x 14.
+TEST(EndOfShiftedTriples, ValuesThatWaitFinishWithTheCharactersLeft) {
+  // "AAa" leaves 1; "b" has 2 2: 1 2 2 = 1683 = 6 147
+  EXPECT_EQ(Ending(Mode::kC40, 4, "AAab"), "89 179 6 147");
+  // "AAa" leaves 1; "A" has 14: 1 14 and a pad = 2161 = 8 113
+  EXPECT_EQ(Ending(Mode::kC40, 4, "AAaA"), "89 179 8 113");
+  // "Aaa" leaves 2 1; "A" has 14: 3255 = 12 183
+  EXPECT_EQ(Ending(Mode::kC40, 4, "AaaA"), "87 210 12 183");
+  // "Aaa" leaves 2 1; "AA" and "b" are too much
+  EXPECT_EQ(Ending(Mode::kC40, 4, "AaaAA"), "87 210 12 169 254 66 66");
+  EXPECT_EQ(Ending(Mode::kC40, 4, "Aaab"), "87 210 12 169 254 99");
+}
+
+// With no character left nothing is finished: the last one goes out in ASCII, or fills the symbol.
+TEST(EndOfShiftedTriples, AGroupThatEndsTheTextIsNotFinished) {
+  EXPECT_EQ(Ending(Mode::kC40, 8, "Aaa"), "87 210 254 98");  // 12
+  EXPECT_EQ(Ending(Mode::kC40, 9, "Aaa"), "87 210 98");
+  EXPECT_EQ(Ending(Mode::kC40, 7, "Aaa", {8, 32, 0}), "87 210 98");
 }
 
 TEST(EndOfEdifact, NothingLeftUnlatchIsLeftOutOneBelowEverySquareCapacityAlone) {

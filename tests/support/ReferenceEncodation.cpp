@@ -131,6 +131,12 @@ class Encoder {
     return ahead;
   }
 
+  // After a group: characters remain, and no designator stands among the next so many.
+  bool IsModeAsked(int group) const {
+    const int next = Left() < group ? Left() : group;
+    return next > 0 && PlainAhead(group) == next;
+  }
+
   void AsciiCharacter(int c) {
     if (c < 128) {
       Put(c + 1);
@@ -221,7 +227,7 @@ class Encoder {
     if (mode_ == kEdifact) {
       isImplied = D(N() + a).has_value() && *D(N() + a) - N() <= 2;
     } else {
-      isImplied = r == 1 && a == 1 && S() == N() + 1 && D(N() + 1) == S();
+      isImplied = r == 1 && a == 1 && D(N() + 1) == N() + 1;
     }
     if (!isImplied) Unlatch();
     AsciiUntil(text_.size());
@@ -249,7 +255,7 @@ class Encoder {
         Read(read);
       }
       for (std::size_t i = 0; i < 24; i += 8) Put(FromBinary(bits.substr(i, 8)));
-      const int mode = PlainAhead(4) == 4 ? SlowLookAhead(narrow_, p_, kEdifact) : kEdifact;
+      const int mode = IsModeAsked(4) ? SlowLookAhead(narrow_, p_, kEdifact) : kEdifact;
       if (mode != kEdifact) {
         Unlatch();
         return Latch(mode);
@@ -304,7 +310,7 @@ class Encoder {
       p_ = end;
       const int ahead = PlainAhead(3);
       const std::size_t aheadEnd = p_ + static_cast<std::size_t>(ahead);
-      if (end > begin && ahead == 3) {
+      if (end > begin && IsModeAsked(3)) {
         const int mode = SlowLookAhead(narrow_, p_, mode_);
         if (mode != mode_) return LeaveTriples(begin, end, mode);
       }
@@ -325,7 +331,7 @@ class Encoder {
 
   void LeaveTriples(std::size_t begin, std::size_t end, int mode) {
     PackTriples(begin, LastPlaceToLeave(begin, end));
-    if (p_ == end && N() + 1 == S()) {
+    if (ValuesBetween(begin, end).size() % 3 == 0 && N() + 1 == S()) {
       LeadAstray("D-DM-7");
     } else {
       Unlatch();
@@ -334,7 +340,22 @@ class Encoder {
     Latch(mode);
   }
 
+  // One or two characters behind the last group are written in the mode where their values and
+  // those that the groups leave over make two or three, and the symbol ends with them.
+  bool FinishesInMode(std::size_t begin, std::size_t end) const {
+    if (mode_ == kX12 || end == text_.size()) return false;
+    const std::size_t over = ValuesBetween(begin, end).size() % 3;
+    const std::size_t last = over + ValuesBetween(end, text_.size()).size();
+    if (last != 2 && last != 3) return false;
+    const std::size_t values = ValuesBetween(begin, text_.size()).size();
+    const int n = N() + static_cast<int>((values + 2) / 3) * 2;
+    return D(n) == n;
+  }
+
   void EndTriples(std::size_t begin, std::size_t end, std::size_t restEnd) {
+    if (restEnd == text_.size() && FinishesInMode(begin, end)) {
+      return PackTriples(begin, restEnd);
+    }
     std::size_t leave = LastPlaceToLeave(begin, end);
     const bool isEndOfText = restEnd == text_.size();
     if (isEndOfText && end == restEnd && ValuesBetween(begin, end).size() % 3 != 0) {

@@ -118,8 +118,11 @@ TEST(Departures, OfDataMatrix) {
                    u"12",
                    0, 1),
             "D-DM-6");
-  EXPECT_EQ(Matrix(u"12AIMAIMAI"), "D-DM-2 D-DM-8");  // 8 codewords by the book
-  EXPECT_EQ(Matrix(u"12AIMAIMAI", 0x1010), "D-DM-2");
+  EXPECT_EQ(Matrix(u"12AIMAIMAI"), "D-DM-2");  // 8 codewords, by the book
+  EXPECT_EQ(Matrix(u"11AIMAIMAIMAaa"), "D-DM-2 D-DM-8");
+  EXPECT_EQ(Matrix(u"11AIMAIMAIMAaa", 0x1212), "D-DM-2");
+  EXPECT_EQ(Matrix(u"Serial Date type type MADE"), "D-DM-2");
+  EXPECT_EQ(Matrix(u"A*B1C>D1E*F1G>H1a"), "D-DM-2 D-DM-7");
   EXPECT_EQ(Matrix(u"AIMAIMAIMAIM", 0x0820), "D-DM-2 D-DM-8");
   EXPECT_EQ(Matrix(u"AIMAIMAIMA"), "D-DM-2");  // no unlatch, as published
   EXPECT_EQ(Matrix(u"Rectangle 12 x 36", 0x0C24).find("D-DM-2"), 0u);
