@@ -15,8 +15,8 @@
 #include <string>
 #include <vector>
 
+#include "api/DataMatrixEncoder.h"
 #include "barhatch.h"
-#include "datamatrix/DataMatrixEncoder.h"
 
 namespace {
 

@@ -11,8 +11,8 @@
 #include "FuzzInput.h"
 #include "Results.h"
 #include "api/BarcodeSettings.h"
+#include "api/DataMatrixEncoder.h"
 #include "barhatch.h"
-#include "datamatrix/DataMatrixEncoder.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
 // A Data Matrix as a fill buffer.
 #include "api/ApiTrace.h"
 #include "api/BarcodeSettings.h"
+#include "api/DataMatrixEncoder.h"
 #include "api/DataText.h"
 #include "api/Hatcher.h"
 #include "barhatch.h"
-#include "datamatrix/DataMatrixEncoder.h"
 
 namespace {
 

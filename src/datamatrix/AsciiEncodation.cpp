@@ -15,16 +15,20 @@ bool IsDigitPair(const EncodationState& state, std::size_t index, std::size_t en
   return index + 1 < end && IsDigit(state.text[index]) && IsDigit(state.text[index + 1]);
 }
 
-void AppendCharacter(CodewordBuffer& codewords, int byte) {
-  if (byte <= 127) {
-    codewords.Append(byte + 1);
-  } else if (byte != 128) {  // D-DM-4
-    codewords.Append(kUpperShift);
-    codewords.Append(byte - 128);  // D-DM-3: published byte - 127
-  }
+void AppendCharacter(EncodationState& state, int byte) {
+  if (byte <= 127) return state.codewords.Append(byte + 1);
+  if (byte == 128 && state.how.Deviates(Deviation::kDDM_4)) return;  // dropped
+  state.codewords.Append(kUpperShift);
+  const bool isLower = byte != 128 && state.how.Deviates(Deviation::kDDM_3);
+  state.codewords.Append(isLower ? byte - 128 : byte - 127);
 }
 
-int CharacterCodewords(int byte) { return byte <= 127 ? 1 : byte != 128 ? 2 : 0; }
+int CharacterCodewords(const EncodationState& state, int byte) {
+  if (byte <= 127) return 1;
+  return byte == 128 && state.how.IsInForce(Deviation::kDDM_4) ? 0 : 2;
+}
+
+}  // namespace
 
 void EncodePairOrCharacter(EncodationState& state, std::size_t end) {
   const char16_t* const next = state.text + state.position;
@@ -32,12 +36,10 @@ void EncodePairOrCharacter(EncodationState& state, std::size_t end) {
     state.codewords.Append(kFirstDigitPair + (next[0] - u'0') * 10 + (next[1] - u'0'));
     state.position += 2;
   } else {
-    AppendCharacter(state.codewords, next[0] & 0xFF);
+    AppendCharacter(state, next[0] & 0xFF);
     ++state.position;
   }
 }
-
-}  // namespace
 
 void EncodeAsciiUntil(EncodationState& state, std::size_t end) {
   while (state.position < end) EncodePairOrCharacter(state, end);
@@ -50,7 +52,7 @@ int AsciiCodewordsUntil(const EncodationState& state, std::size_t end) {
       ++codewords;
       ++i;
     } else {
-      codewords += CharacterCodewords(state.text[i] & 0xFF);
+      codewords += CharacterCodewords(state, state.text[i] & 0xFF);
     }
   }
   return codewords;
@@ -60,7 +62,7 @@ void EncodeAscii(EncodationState& state) {
   if (IsDigitPair(state, state.position, state.length)) {
     return EncodePairOrCharacter(state, state.length);
   }
-  const Mode mode = state.lookAhead.ModeFor(state.position, Mode::kAscii);
+  const Mode mode = NextMode(state);
   if (mode != Mode::kAscii) return EnterMode(state, mode);
   EncodePairOrCharacter(state, state.length);
 }
@@ -87,8 +89,9 @@ void EncodeDesignator(EncodationState& state) {
 void EncodeBase256(EncodationState& state) {
   Mode mode = Mode::kBase256;
   while (mode == Mode::kBase256 && CharactersAhead(state, 1) == 1) {
-    ++state.position;  // D-DM-5: no length and no data
-    mode = state.lookAhead.ModeFor(state.position, mode);
+    state.how.Meet(Deviation::kDDM_5);  // no length and no data
+    ++state.position;
+    mode = NextMode(state);
   }
   EnterMode(state, CharactersAhead(state, 1) == 1 ? mode : Mode::kAscii);
 }

@@ -123,6 +123,12 @@ constexpr const CharacterSetTable& TableOf(CharacterSet set) {
                                       : kX12Table;
 }
 
+// How many values a byte, 0..255, has; 0 where the set lacks it.
+constexpr int ValueCountOf(CharacterSet set, int byte) {
+  if (byte < kSetBytes) return TableOf(set).rows[byte].count;
+  return set == CharacterSet::kX12 ? 0 : 2 + TableOf(set).rows[byte - kSetBytes].count;
+}
+
 // byte: 0..255.
 constexpr CharacterValues ValuesOf(CharacterSet set, int byte) {
   if (byte < kSetBytes) return TableOf(set).rows[byte];
@@ -134,6 +140,16 @@ constexpr CharacterValues ValuesOf(CharacterSet set, int byte) {
   for (int i = 0; i < lower.count; ++i) values.Append(lower.values[i]);
   return values;
 }
+
+constexpr bool CountsAgree(CharacterSet set) {
+  for (int byte = 0; byte < 256; ++byte) {
+    if (ValueCountOf(set, byte) != ValuesOf(set, byte).count) return false;
+  }
+  return true;
+}
+static_assert(CountsAgree(CharacterSet::kC40) && CountsAgree(CharacterSet::kText) &&
+                  CountsAgree(CharacterSet::kX12),
+              "values are counted as they are written");
 
 }  // namespace barhatch
 

@@ -1,4 +1,5 @@
 #include "datamatrix/ModeEncodations.h"
+#include "datamatrix/Unlatching.h"
 
 namespace barhatch {
 
@@ -6,11 +7,16 @@ namespace {
 
 constexpr std::size_t kGroup = 4;
 
+// The characters of six bits.
+constexpr bool IsEdifact(char16_t character) { return character >= u' ' && character <= u'^'; }
+
 // Four characters of six bits in three codewords.
 void EncodeGroup(EncodationState& state) {
   int bits = 0;
   for (std::size_t i = 0; i < kGroup; ++i) {
-    bits = bits << 6 | (state.text[state.position + i] & 0x3F);  // D-DM-9: also outside ' ' to '^'
+    const char16_t character = state.text[state.position + i];
+    if (!IsEdifact(character)) state.how.Meet(Deviation::kDDM_9);
+    bits = bits << 6 | (character & 0x3F);
   }
   state.codewords.Append(bits >> 16);
   state.codewords.Append(bits >> 8 & 0xFF);
@@ -27,12 +33,11 @@ void EncodeEdifact(EncodationState& state) {
     if (state.codewords.HasOverflowed()) return;
     ahead = CharactersAhead(state, kGroup);
     const Mode mode = ModeBehindGroup(state, ahead, kGroup);
-    if (mode != Mode::kEdifact) {
-      state.codewords.Append(UnlatchCodeword(Mode::kEdifact));
-      return EnterMode(state, mode);
-    }
+    if (mode != Mode::kEdifact) return LeaveBehindUnlatch(state, state.position, mode);
   }
-  EndStretch(state, state.position + ahead);
+  const std::size_t restEnd = state.position + ahead;
+  if (restEnd < state.length) return LeaveBehindUnlatch(state, restEnd, Mode::kAscii);
+  LeaveAtEnd(state);
 }
 
 }  // namespace barhatch

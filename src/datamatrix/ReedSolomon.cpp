@@ -125,10 +125,11 @@ void BlockCoder::Tabulate(Polynomial (&multiples)[16], int lowestFactor) const {
   }
 }
 
-void BlockCoder::Encode(std::uint8_t* block, int dataCodewords, int stride) const {
+void BlockCoder::Encode(const std::uint8_t* data, int dataCodewords, std::uint8_t* errors,
+                        int stride) const {
   std::uint32_t remainder[kMaxWords + 1] = {};  // the last word stays 0
   for (int i = 0; i < dataCodewords; ++i) {
-    const std::uint32_t leading = block[i * stride] ^ remainder[0] >> 24;
+    const std::uint32_t leading = data[i * stride] ^ remainder[0] >> 24;
     const Polynomial& low = lowMultiples_[leading & 0xF];
     const Polynomial& high = highMultiples_[leading >> 4];
     for (int w = 0; w < words_; ++w) {
@@ -137,7 +138,7 @@ void BlockCoder::Encode(std::uint8_t* block, int dataCodewords, int stride) cons
     }
   }
   for (int i = 0; i < degree_; ++i) {
-    block[(dataCodewords + i) * stride] = static_cast<std::uint8_t>(remainder[i / 4] >> ShiftOf(i));
+    errors[i * stride] = static_cast<std::uint8_t>(remainder[i / 4] >> ShiftOf(i));
   }
 }
 

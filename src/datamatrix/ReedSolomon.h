@@ -19,9 +19,9 @@ class BlockCoder {
   // 28, 36, 42, 48, 56, 62, 68).
   explicit BlockCoder(int errorCodewords);
 
-  // Writes the error codewords of one block right behind its data. Codeword i of the block is
-  // block[i * stride], so that interleaved blocks are coded where they stand.
-  void Encode(std::uint8_t* block, int dataCodewords, int stride) const;
+  // Writes the error codewords of one block. Codeword i of the data is data[i * stride], error
+  // codeword i errors[i * stride], so that interleaved blocks are coded where they stand.
+  void Encode(const std::uint8_t* data, int dataCodewords, std::uint8_t* errors, int stride) const;
 
  private:
   static constexpr int kMaxDegree = 68;

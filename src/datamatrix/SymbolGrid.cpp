@@ -2,7 +2,6 @@
 
 #include <cstddef>
 #include <cstring>
-#include <new>
 
 #include "job/ModuleString.h"
 
@@ -13,19 +12,19 @@ namespace {
 // Writes the modules of a grid in reading order.
 class GridWriter {
  public:
-  GridWriter(const SymbolSize& size, QuietBorder border, char* data)
-      : size_(size), borderModules_(border == QuietBorder::kOneModule ? 1 : 0), next_(data) {}
+  GridWriter(const SymbolSize& size, int quietModules, char* letters)
+      : size_(size), borderModules_(quietModules), next_(letters) {}
 
   void WriteGrid(const char* mapping) {
     const int linesOfRegion = size_.symbolRows / size_.regionsDown;
-    WriteQuietLine();
+    WriteQuietLines();
     for (int region = 0; region < size_.regionsDown; ++region) {
       WriteClockLine();
       for (int line = 1; line < linesOfRegion - 1; ++line, mapping += size_.mappingColumns)
         WriteDataLine(mapping, line % 2 == 0 ? kNarrowSpace : kNarrowBar);
       WriteFinderLine();
     }
-    WriteQuietLine();
+    WriteQuietLines();
     *next_ = '\0';
   }
 
@@ -40,7 +39,7 @@ class GridWriter {
     next_ += modules;
   }
 
-  void WriteQuietLine() {
+  void WriteQuietLines() {
     Write(kNarrowSpace, borderModules_ * (size_.symbolColumns + 2 * borderModules_));
   }
 
@@ -77,22 +76,12 @@ class GridWriter {
 
 }  // namespace
 
-TwoDStringResult* NewRefusedGrid() { return new (std::nothrow) TwoDStringResult{0, 0, nullptr}; }
-
-TwoDStringResult* NewGrid(const SymbolSize& size, QuietBorder border, const char* mapping) {
-  TwoDStringResult* const grid = NewRefusedGrid();
-  if (grid == nullptr) return nullptr;
-  const int borders = border == QuietBorder::kOneModule ? 2 : 0;
-  grid->numrows = size.symbolRows + borders;
-  grid->numcols = size.symbolColumns + borders;
-  const std::size_t modules = static_cast<std::size_t>(grid->numrows * grid->numcols);
-  grid->data = new (std::nothrow) char[modules + 1];
-  if (grid->data == nullptr) {
-    delete grid;
-    return nullptr;
-  }
-  GridWriter(size, border, grid->data).WriteGrid(mapping);
-  return grid;
+char* NewGrid(const SymbolSize& size, int quietModules, const char* mapping, const Memory& memory) {
+  const int rows = size.symbolRows + 2 * quietModules;
+  const int columns = size.symbolColumns + 2 * quietModules;
+  Block<char> letters(memory, static_cast<std::size_t>(rows * columns) + 1);
+  if (letters.get() != nullptr) GridWriter(size, quietModules, letters.get()).WriteGrid(mapping);
+  return letters.Release();
 }
 
 }  // namespace barhatch

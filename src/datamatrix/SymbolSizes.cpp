@@ -108,47 +108,69 @@ bool FitsInto(const SymbolSize& size, const SizeRequest& request) {
   return size.symbolRows <= request.rows && size.symbolColumns <= request.columns;
 }
 
-// The size found by capacity where it covers the request, else the one that is the request. Null
-// when that one does not exist or holds less than needed.
+// A size, or null and the reason for it.
+struct Choice {
+  const SymbolSize* size;
+  Reason reason = Reason::kNone;
+};
+
+constexpr Choice Refused(Reason reason) { return {nullptr, reason}; }
+
+// The size found by capacity where it covers the request, else the one that is the request.
 template <std::size_t count>
-const SymbolSize* EnlargeToRequest(const SymbolSize* smallest, const SymbolSize (&sizes)[count],
-                                   int codewords, const SizeRequest& request) {
-  if (Covers(*smallest, request)) return smallest;
+Choice EnlargeToRequest(const SymbolSize* smallest, const SymbolSize (&sizes)[count], int codewords,
+                        const SizeRequest& request) {
+  if (Covers(*smallest, request)) return {smallest};
   const SymbolSize* const requested = FirstCovering(sizes, request);
-  if (requested == nullptr || !FitsInto(*requested, request)) return nullptr;
-  return requested->dataCodewords >= codewords ? requested : nullptr;
+  if (requested == nullptr || !FitsInto(*requested, request)) return Refused(Reason::kNoSuchSize);
+  return requested->dataCodewords >= codewords ? Choice{requested} : Refused(Reason::kSizeTooSmall);
 }
 
-const SymbolSize* ChooseSquare(int codewords, const SizeRequest& request) {
+Choice ChooseSquare(int codewords, const SizeRequest& request) {
   const SymbolSize* const smallest = SmallestHolding(kSquareSizes, codewords);
-  if (request.isExpanding == 0 && !FitsInto(*smallest, request)) return nullptr;
+  if (request.isExpanding == 0 && !FitsInto(*smallest, request)) {
+    return Refused(Reason::kNoPermissionToGrow);
+  }
   return EnlargeToRequest(smallest, kSquareSizes, codewords, request);
 }
 
-const SymbolSize* ChooseRectangle(int codewords, const SizeRequest& request) {
-  if (codewords > kMaxRectangularDataCodewords) {
-    return request.isExpanding == 1 ? ChooseSquare(codewords, request) : nullptr;
-  }
+// No rectangle holds the codewords.
+Choice ChooseSquareForRectangle(int codewords, const SizeRequest& request) {
+  if (request.isExpanding != 1) return Refused(Reason::kNoPermissionToGrow);
+  const SymbolSize* const smallest = SmallestHolding(kSquareSizes, codewords);
+  if (Covers(*smallest, request)) return {smallest};
+  const SymbolSize* const requested = FirstCovering(kRectangularSizes, request);
+  const bool isSize = requested != nullptr && FitsInto(*requested, request);
+  return Refused(isSize ? Reason::kSizeTooSmall : Reason::kNoSuchSize);
+}
+
+Choice ChooseRectangle(int codewords, const SizeRequest& request) {
+  if (codewords > kMaxRectangularDataCodewords) return ChooseSquareForRectangle(codewords, request);
   const SymbolSize* const smallest = SmallestHolding(kRectangularSizes, codewords);
-  if (request.isExpanding == 0 && !FitsInto(*smallest, request)) return nullptr;
+  if (request.isExpanding == 0 && !FitsInto(*smallest, request)) {
+    return Refused(Reason::kNoPermissionToGrow);
+  }
   return EnlargeToRequest(smallest, kRectangularSizes, codewords, request);
+}
+
+Choice Choose(int codewords, const SizeRequest& request) {
+  if (codewords > kMaxDataCodewords) return Refused(Reason::kTooManyCodewords);
+  return request.rows == request.columns ? ChooseSquare(codewords, request)
+                                         : ChooseRectangle(codewords, request);
 }
 
 }  // namespace
 
-SizeRequest RequestFromMatrixSize(std::int32_t matrixSize, std::int32_t isExpanding) {
-  const std::uint32_t bits = static_cast<std::uint32_t>(matrixSize);
-  return {static_cast<int>(bits >> 8 & 0xFF), static_cast<int>(bits & 0xFF), isExpanding};
+Refusal ChooseSymbolSize(int codewords, const SizeRequest& request, SymbolSize& chosen) {
+  const Choice choice = Choose(codewords, request);
+  if (choice.size == nullptr) return {choice.reason, -1, codewords};
+  chosen = *choice.size;
+  return {};
 }
 
-bool ChooseSymbolSize(int codewords, const SizeRequest& request, SymbolSize& chosen) {
-  if (codewords > kMaxDataCodewords) return false;
-  const SymbolSize* const size = request.rows == request.columns
-                                     ? ChooseSquare(codewords, request)
-                                     : ChooseRectangle(codewords, request);
-  if (size == nullptr) return false;
-  chosen = *size;
-  return true;
+int CapacityUnder(const SizeRequest& request, int codewords) {
+  SymbolSize chosen;
+  return ChooseSymbolSize(codewords, request, chosen).IsRefused() ? 0 : chosen.dataCodewords;
 }
 
 int SquareCapacityAbove(int codewords) {

@@ -18,9 +18,8 @@
 #ifndef BARHATCH_DATAMATRIX_SYMBOLSIZES_H
 #define BARHATCH_DATAMATRIX_SYMBOLSIZES_H
 
-#include <cstdint>
-
 #include "job/Job.h"
+#include "job/Refusal.h"
 
 namespace barhatch {
 
@@ -48,12 +47,17 @@ extern const SymbolSize kRectangularSizes[kRectangularSizeCount];
 constexpr int kMaxDataCodewords = 1558;  // 144 x 144
 constexpr int kMaxCodewords = 2178;      // 144 x 144: 1558 + 620
 
-// matrixSize: rows in bits 8 to 15, columns in bits 0 to 7; the higher bits have no meaning.
-SizeRequest RequestFromMatrixSize(std::int32_t matrixSize, std::int32_t isExpanding);
+// The size that `codewords` data codewords (0 and more) get under the request. `chosen` is
+// unchanged when the request is refused, the figure of which is always the codewords:
+//   kTooManyCodewords    more than kMaxDataCodewords, whatever is asked for
+//   kNoPermissionToGrow  the smallest size for them is larger than the request, or no rectangle
+//                        holds them, and the symbol may not grow, or not into a square
+//   kSizeTooSmall        the requested size exists and holds fewer
+//   kNoSuchSize          the requested size does not exist
+Refusal ChooseSymbolSize(int codewords, const SizeRequest& request, SymbolSize& chosen);
 
-// The size that `codewords` data codewords (0 and more) get under the request. False, and `chosen`
-// unchanged, when the request is refused; always so for more than kMaxDataCodewords.
-bool ChooseSymbolSize(int codewords, const SizeRequest& request, SymbolSize& chosen);
+// The data codewords of that size; 0 for a refusal.
+int CapacityUnder(const SizeRequest& request, int codewords);
 
 // The smallest data capacity of a square that is greater than the count (3 for 2, 5 for 3); 0 when
 // there is none, that is from kMaxDataCodewords on.

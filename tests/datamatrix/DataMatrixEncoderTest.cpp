@@ -1,5 +1,5 @@
 // Texts are digits or single letters: what they become is beyond doubt in every encodation.
-#include "datamatrix/DataMatrixEncoder.h"
+#include "api/DataMatrixEncoder.h"
 
 #include <gtest/gtest.h>
 
@@ -74,6 +74,22 @@ class DataMatrixEncoding : public test::SettingsFixture {
  protected:
   DataMatrixEncoding() { SetSize(0, 1); }
 };
+
+TEST(SizeRequest, RowsAreBits8To15AndColumnsBits0To7) {
+  const SizeRequest request = RequestFromMatrixSize(0x1030, 7);
+  EXPECT_EQ(request.rows, 16);
+  EXPECT_EQ(request.columns, 48);
+  EXPECT_EQ(request.isExpanding, 7);
+}
+
+TEST(SizeRequest, HigherBitsHaveNoMeaning) {
+  for (std::int32_t matrixSize : {0x00010A0C, 0x7FFF0A0C, static_cast<std::int32_t>(0xFFFF0A0Cu)}) {
+    const SizeRequest request = RequestFromMatrixSize(matrixSize, -1);
+    EXPECT_EQ(request.rows, 10);
+    EXPECT_EQ(request.columns, 12);
+    EXPECT_EQ(request.isExpanding, -1);
+  }
+}
 
 // ISO/IEC 16022: "123456" as 10 x 10, codewords 142 164 186 and 114 25 5 88 102.
 TEST_F(DataMatrixEncoding, PublishedExampleIsDrawn) {

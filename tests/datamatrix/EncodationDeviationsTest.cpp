@@ -108,7 +108,7 @@ TEST(DataMatrixDeviations, DDM4Byte128IsDroppedInAscii) {
 
 TEST(DataMatrixDeviations, DDM5Base256WritesNothing) {
   CodewordBuffer buffer;
-  EncodationState state(u"\x01\x02\x03", 3, test::kSmallestSquare, buffer);
+  test::DeviceState state({u"\x01\x02\x03", 3}, test::kSmallestSquare, buffer);
   state.mode = Mode::kBase256;
   EncodeBase256(state);
   EXPECT_EQ(buffer.Count(), 0);
@@ -118,7 +118,7 @@ TEST(DataMatrixDeviations, DDM5Base256WritesNothing) {
 TEST(DataMatrixDeviations, DDM5Base256IsLeftForTheModeOfTheLookAhead) {
   CodewordBuffer buffer;
   const std::u16string text = u"\x01" + std::u16string(30, u'A') + u"\u0100";
-  EncodationState state(text.data(), text.size(), test::kSmallestSquare, buffer);
+  test::DeviceState state({text.data(), text.size()}, test::kSmallestSquare, buffer);
   state.mode = Mode::kBase256;
   EncodeBase256(state);
   EXPECT_EQ(test::InDecimal(test::CodewordsOf(buffer)), "230");
@@ -206,7 +206,7 @@ TEST(DataMatrixDeviations, DDM8TextThatFillsTheLargestSymbolOverflows) {
 
 TEST(DataMatrixDeviations, DDM9EdifactWritesTheLowSixBits) {
   CodewordBuffer buffer;
-  EncodationState state(u"AbC\x01", 4, test::kSmallestSquare, buffer);
+  test::DeviceState state({u"AbC\x01", 4}, test::kSmallestSquare, buffer);
   buffer.Append(240);
   state.mode = Mode::kEdifact;
   EncodeEdifact(state);
@@ -217,7 +217,7 @@ TEST(DataMatrixDeviations, DDM9EdifactWritesTheLowSixBits) {
 
 TEST(DataMatrixDeviations, DDM9UnderscoreIsReadAsTheUnlatch) {
   CodewordBuffer buffer;
-  EncodationState state(u"AB_C", 4, test::kSmallestSquare, buffer);
+  test::DeviceState state({u"AB_C", 4}, test::kSmallestSquare, buffer);
   buffer.Append(240);
   state.mode = Mode::kEdifact;
   EncodeEdifact(state);
@@ -243,7 +243,7 @@ TEST(DataMatrixDeviations, DDM10UnlatchInTheLastTwoCodewordsIsReadAsABrace) {
   CodewordBuffer buffer;
   for (int i = 0; i < 6; ++i) buffer.Append('x' + 1);
   buffer.Append(240);
-  EncodationState state(u"....ABCD....", 12, test::kSmallestSquare, buffer);
+  test::DeviceState state({u"....ABCD....", 12}, test::kSmallestSquare, buffer);
   state.mode = Mode::kEdifact;
   EncodeEdifact(state);
   ASSERT_EQ(buffer.Count(), 17);  // 16 and the unlatch, in 18

@@ -31,7 +31,7 @@ struct Stretch {
 Stretch StretchOf(Mode mode, int count, const std::u16string& text, const SizeRequest& request) {
   CodewordBuffer buffer;
   for (int i = 0; i < count; ++i) buffer.Append(1);
-  EncodationState state(text.data(), text.size(), request, buffer);
+  test::DeviceState state({text.data(), text.size()}, request, buffer);
   state.mode = mode;
   mode == Mode::kEdifact ? EncodeEdifact(state) : EncodeTriples(state);
   EXPECT_EQ(state.position, text.size());
@@ -144,7 +144,7 @@ TEST(EndOfTriples, RequestDecidesWhereTwoCharactersFillTheSymbol) {
 TEST(EndOfTriples, OnlyTheEndOfTheTextIsFinishedInTheMode) {
   EXPECT_EQ(Ending(Mode::kC40, 6, "12"), "32 49");
   CodewordBuffer buffer;
-  EncodationState state(u"12\u0100", 3, {14, 14, 1}, buffer);
+  test::DeviceState state({u"12\u0100", 3}, {14, 14, 1}, buffer);
   state.mode = Mode::kC40;
   EncodeTriples(state);
   EXPECT_EQ(test::InDecimal(test::CodewordsOf(buffer)), "254 142");
@@ -265,7 +265,7 @@ void ExpectReadable(Mode mode, const std::string& rest, const SizeRequest& reque
   buffer.Append(latch);
   const std::u16string text = Wide((mode == Mode::kText ? "aim" : "AIM") +
                                    std::string(mode == Mode::kEdifact ? "." : "") + rest);
-  EncodationState state(text.data(), text.size(), request, buffer);
+  test::DeviceState state({text.data(), text.size()}, request, buffer);
   state.mode = mode;
   mode == Mode::kEdifact ? EncodeEdifact(state) : EncodeTriples(state);
   const auto size =

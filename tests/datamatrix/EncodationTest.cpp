@@ -168,7 +168,7 @@ TEST(X12Encodation, SignsAndLetters) {
 
 TEST(X12Encodation, GroupWithACharacterThatX12LacksGoesOutInAscii) {
   CodewordBuffer buffer;
-  EncodationState state(u"A!12", 4, test::kSmallestSquare, buffer);
+  test::DeviceState state({u"A!12", 4}, test::kSmallestSquare, buffer);
   state.mode = Mode::kX12;
   EncodeTriples(state);
   EXPECT_EQ(test::InDecimal(test::CodewordsOf(buffer)), "254 66 34 50");
@@ -182,7 +182,7 @@ TEST(EdifactEncodation, FourCharactersInThreeCodewords) {
 
 TEST(EdifactEncodation, LeavingInMidTextAlwaysWritesTheUnlatch) {
   CodewordBuffer buffer;
-  EncodationState state(u"....aimaimaim", 13, test::kSmallestSquare, buffer);
+  test::DeviceState state({u"....aimaimaim", 13}, test::kSmallestSquare, buffer);
   state.mode = Mode::kEdifact;
   EncodeEdifact(state);
   EXPECT_EQ(test::InDecimal(test::CodewordsOf(buffer)), "186 235 174 124 239");
@@ -193,7 +193,7 @@ TEST(EdifactEncodation, LeavingInMidTextAlwaysWritesTheUnlatch) {
 TEST(ModeSwitch, LatchesOfTheStandard) {
   const auto latch = [](Mode mode) {
     CodewordBuffer buffer;
-    EncodationState state(u"", 0, test::kSmallestSquare, buffer);
+    test::DeviceState state({u"", 0}, test::kSmallestSquare, buffer);
     EnterMode(state, mode);
     EXPECT_EQ(state.mode, mode);
     return test::InDecimal(test::CodewordsOf(buffer));

@@ -7,6 +7,8 @@
 #include <vector>
 
 #include "datamatrix/Encodation.h"
+#include "datamatrix/EncodationState.h"
+#include "datamatrix/SymbolSizes.h"
 #include "support/TextClasses.h"
 
 namespace barhatch::test {
@@ -27,13 +29,36 @@ inline std::string InDecimal(const std::vector<int>& codewords) {
   return text;
 }
 
+struct DeviceConformance {
+  Conformance deviceHow = Conformance::Device();
+};
+
+// The state of one mode's encoder, all deviations in force.
+struct DeviceState : DeviceConformance, EncodationState {
+  DeviceState(const TextUnits& itsText, const SizeRequest& itsRequest, CodewordBuffer& itsCodewords)
+      : EncodationState(itsText, itsRequest, deviceHow, itsCodewords) {}
+};
+
+inline Header HeaderOf(int codeFormat) {
+  return codeFormat == 1   ? Header::kFnc1Second
+         : codeFormat == 2 ? Header::kMacro05
+         : codeFormat == 3 ? Header::kMacro06
+                           : Header::kNone;
+}
+
 // The buffer starts with the macro header where the code format asks for one.
-inline std::unique_ptr<CodewordBuffer> EncodedBuffer(const std::u16string& text, int codeFormat = 0,
-                                                     const SizeRequest& request = kSmallestSquare) {
+inline std::unique_ptr<CodewordBuffer> EncodedBuffer(const std::u16string& text, int codeFormat,
+                                                     const SizeRequest& request, Conformance& how) {
   auto buffer = std::make_unique<CodewordBuffer>();
   if (codeFormat == 2 || codeFormat == 3) buffer->Append(codeFormat == 2 ? 236 : 237);
-  EncodeText(text.data(), text.size(), codeFormat, request, *buffer);
+  EncodeText({text.data(), text.size()}, HeaderOf(codeFormat), request, how, *buffer);
   return buffer;
+}
+
+inline std::unique_ptr<CodewordBuffer> EncodedBuffer(const std::u16string& text, int codeFormat = 0,
+                                                     const SizeRequest& request = kSmallestSquare) {
+  Conformance how = Conformance::Device();
+  return EncodedBuffer(text, codeFormat, request, how);
 }
 
 // "overflow" for a text of too many codewords.

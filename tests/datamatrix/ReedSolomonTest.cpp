@@ -23,7 +23,9 @@ std::vector<int> Encode(const std::vector<int>& data, int errorCodewords, int st
   for (std::size_t i = 0; i < data.size(); ++i)
     cells[i * step] = static_cast<std::uint8_t>(data[i]);
 
-  BlockCoder(errorCodewords).Encode(cells.data(), static_cast<int>(data.size()), stride);
+  BlockCoder(errorCodewords)
+      .Encode(cells.data(), static_cast<int>(data.size()), cells.data() + data.size() * step,
+              stride);
 
   for (std::size_t i = 0; i < cells.size(); ++i) {
     const bool isOfBlock = i % step == 0 && i / step < elements;

@@ -18,10 +18,9 @@ using test::OwnedGrid;
 using test::ReferenceSize;
 using test::SizeOf;
 
-OwnedGrid Draw(const ReferenceSize& size, const std::string& mapping,
-               QuietBorder border = QuietBorder::kNone) {
+OwnedGrid Draw(const ReferenceSize& size, const std::string& mapping, int quietModules = 0) {
   EXPECT_EQ(mapping.size(), static_cast<std::size_t>(size.mappingRows * size.mappingColumns));
-  return OwnedGrid(NewGrid(SizeOf(size), border, mapping.data()));
+  return test::Drawn(SizeOf(size), quietModules, mapping);
 }
 
 std::string Filled(const ReferenceSize& size, char letter) {
@@ -105,7 +104,7 @@ TEST(SymbolGrid, EveryModuleOfEverySizeIsAsTheStandardSays) {
 TEST(SymbolGrid, QuietBorderIsOneLightModuleOnEverySide) {
   for (const ReferenceSize& size : test::ReferenceSizes()) {
     const std::string mapping = Mixed(size);
-    const OwnedGrid grid = Draw(size, mapping, QuietBorder::kOneModule);
+    const OwnedGrid grid = Draw(size, mapping, 1);
     EXPECT_EQ(grid.Rows(), size.rows + 2);
     EXPECT_EQ(grid.Columns(), size.columns + 2);
     EXPECT_EQ(grid.Letters().size(),
@@ -115,20 +114,31 @@ TEST(SymbolGrid, QuietBorderIsOneLightModuleOnEverySide) {
   }
 }
 
-TEST(SymbolGrid, RefusalIsARecordOfZeros) {
-  const OwnedGrid grid(NewRefusedGrid());
-  EXPECT_TRUE(grid.IsRefused());
+TEST(SymbolGrid, QuietBorderMayBeWider) {
+  const ReferenceSize size = Size(8, 32);
+  const std::string mapping = Mixed(size);
+  const OwnedGrid grid = Draw(size, mapping, 3);
+  EXPECT_EQ(grid.Size(), "14x38");
+  const std::string letters = grid.Letters();
+  ASSERT_EQ(letters.size(), 14u * 38u);
+  std::string inner;
+  for (std::size_t row = 0; row < 14; ++row) {
+    const std::string line = letters.substr(38 * row, 38);
+    if (row < 3 || row > 10) {
+      EXPECT_EQ(line, std::string(38, 'a'));
+      continue;
+    }
+    EXPECT_EQ(line.substr(0, 3) + line.substr(35), "aaaaaa");
+    inner += line.substr(3, 32);
+  }
+  EXPECT_EQ(inner, Draw(size, mapping).Letters());
 }
 
 TEST(SymbolGrid, NoMemoryIsNull) {
   const ReferenceSize size = Size(10, 10);
   const std::string mapping = Mixed(size);
-  for (int failing : {0, 1}) {
-    const test::AllocationProbe probe(static_cast<std::size_t>(failing + 1));
-    EXPECT_TRUE(OwnedGrid(NewGrid(SizeOf(size), QuietBorder::kNone, mapping.data())).IsNull());
-  }
   const test::AllocationProbe probe(1);
-  EXPECT_TRUE(OwnedGrid(NewRefusedGrid()).IsNull());
+  EXPECT_EQ(NewGrid(SizeOf(size), 0, mapping.data(), RuntimeMemory()), nullptr);
 }
 
 }  // namespace

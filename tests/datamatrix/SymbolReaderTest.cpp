@@ -7,7 +7,7 @@
 #include "datamatrix/CodewordBuffer.h"
 #include "datamatrix/Interleaving.h"
 #include "datamatrix/Placement.h"
-#include "datamatrix/SymbolGrid.h"
+#include "datamatrix/SizeTesting.h"
 #include "support/OwnedGrid.h"
 #include "support/ReaderOracle.h"
 #include "support/SymbolSizeReference.h"
@@ -31,15 +31,17 @@ std::string Digits(int codewords) {
 
 OwnedGrid Symbol(const ReferenceSize& reference, const std::string& digits) {
   SymbolSize size{};
-  EXPECT_TRUE(ChooseSymbolSize(reference.data, {reference.rows, reference.columns, 0}, size));
+  EXPECT_FALSE(
+      ChooseSymbolSize(reference.data, {reference.rows, reference.columns, 0}, size).IsRefused());
   CodewordBuffer codewords;
   for (std::size_t i = 0; i < digits.size(); i += 2)
     codewords.Append(130 + 10 * (digits[i] - '0') + (digits[i + 1] - '0'));
   codewords.PadTo(size.dataCodewords);
-  AddErrorCorrection(size, codewords.data());
+  Conformance how = Conformance::Device();
+  AddErrorCorrection(size, how, codewords.data());
   std::string mapping(static_cast<std::size_t>(size.mappingRows * size.mappingColumns), 'x');
   PlaceCodewords(codewords.data(), size.mappingRows, size.mappingColumns, mapping.data());
-  return OwnedGrid(NewGrid(size, QuietBorder::kOneModule, mapping.data()));
+  return test::Drawn(size, 1, mapping);
 }
 
 // The grid as a picture of four pixels a module.

@@ -17,8 +17,10 @@ using test::ReferenceSize;
 // "16x48" or "refused".
 std::string Choice(int codewords, int matrixSize, int isExpanding) {
   SymbolSize chosen{};
-  if (!ChooseSymbolSize(codewords, RequestFromMatrixSize(matrixSize, isExpanding), chosen))
-    return "refused";
+  const SizeRequest request = {matrixSize >> 8, matrixSize & 0xFF, isExpanding};
+  const Refusal refusal = ChooseSymbolSize(codewords, request, chosen);
+  EXPECT_EQ(CapacityUnder(request, codewords), chosen.dataCodewords);
+  if (refusal.IsRefused()) return "refused";
   return std::to_string(chosen.symbolRows) + "x" + std::to_string(chosen.symbolColumns);
 }
 
@@ -45,22 +47,6 @@ TEST(SymbolSizes, SixRectanglesAreThoseOfTheStandard) {
   ASSERT_EQ(kRectangularSizeCount, 6);
   for (std::size_t i = 0; i < 6; ++i)
     ExpectRow(kRectangularSizes[i], test::ReferenceRectangles()[i]);
-}
-
-TEST(SizeRequest, RowsAreBits8To15AndColumnsBits0To7) {
-  const SizeRequest request = RequestFromMatrixSize(0x1030, 7);
-  EXPECT_EQ(request.rows, 16);
-  EXPECT_EQ(request.columns, 48);
-  EXPECT_EQ(request.isExpanding, 7);
-}
-
-TEST(SizeRequest, HigherBitsHaveNoMeaning) {
-  for (std::int32_t matrixSize : {0x00010A0C, 0x7FFF0A0C, static_cast<std::int32_t>(0xFFFF0A0Cu)}) {
-    const SizeRequest request = RequestFromMatrixSize(matrixSize, -1);
-    EXPECT_EQ(request.rows, 10);
-    EXPECT_EQ(request.columns, 12);
-    EXPECT_EQ(request.isExpanding, -1);
-  }
 }
 
 TEST(SizeChoice, SmallestSquareTakesUpToThreeCodewords) {
@@ -172,10 +158,35 @@ TEST(SizeChoice, MoreCodewordsThanAnySymbolHoldsAreRefused) {
   EXPECT_EQ(Choice(1559, 0x0812, 1), "refused");
 }
 
+Reason Why(int codewords, const SizeRequest& request) {
+  SymbolSize chosen{};
+  return ChooseSymbolSize(codewords, request, chosen).reason;
+}
+
+TEST(SizeChoice, RefusalHasAReason) {
+  for (const int isExpanding : {0, 1, 2}) {
+    EXPECT_EQ(Why(1559, {0, 0, isExpanding}), Reason::kTooManyCodewords);
+    EXPECT_EQ(Why(1559, {8, 18, isExpanding}), Reason::kTooManyCodewords);
+  }
+  EXPECT_EQ(Why(3, {0, 0, 0}), Reason::kNoPermissionToGrow);
+  EXPECT_EQ(Why(10, {10, 10, 0}), Reason::kNoPermissionToGrow);
+  EXPECT_EQ(Why(6, {12, 26, 0}), Reason::kNoPermissionToGrow);  // 8 x 32 is wider
+  EXPECT_EQ(Why(50, {8, 18, 0}), Reason::kNoPermissionToGrow);
+  EXPECT_EQ(Why(50, {8, 18, 2}), Reason::kNoPermissionToGrow);  // into a square
+  EXPECT_EQ(Why(16, {8, 32, 1}), Reason::kSizeTooSmall);
+  EXPECT_EQ(Why(50, {16, 48, 1}), Reason::kSizeTooSmall);
+  EXPECT_EQ(Why(3, {11, 11, 1}), Reason::kNoSuchSize);
+  EXPECT_EQ(Why(3, {255, 255, 1}), Reason::kNoSuchSize);
+  EXPECT_EQ(Why(3, {9, 18, 1}), Reason::kNoSuchSize);
+  EXPECT_EQ(Why(50, {33, 48, 1}), Reason::kNoSuchSize);
+  EXPECT_EQ(Why(50, {16, 40, 1}), Reason::kNoSuchSize);
+  EXPECT_EQ(Why(3, {10, 10, 0}), Reason::kNone);
+}
+
 TEST(SizeChoice, RefusalLeavesTheResultAlone) {
   SymbolSize chosen{};
   chosen.dataCodewords = 77;
-  EXPECT_FALSE(ChooseSymbolSize(10, {10, 10, 0}, chosen));
+  EXPECT_TRUE(ChooseSymbolSize(10, {10, 10, 0}, chosen).IsRefused());
   EXPECT_EQ(chosen.dataCodewords, 77);
 }
 
@@ -197,7 +208,9 @@ TEST(SizeChoice, EqualsThePlainListOfSteps) {
         for (int isExpanding : {0, 1, 2}) {
           const auto expected = test::ReferenceChoice(codewords, rows, columns, isExpanding);
           SymbolSize chosen{};
-          const bool accepted = ChooseSymbolSize(codewords, {rows, columns, isExpanding}, chosen);
+          const Refusal refusal = ChooseSymbolSize(codewords, {rows, columns, isExpanding}, chosen);
+          const bool accepted = !refusal.IsRefused();
+          ASSERT_EQ(refusal.figure, accepted ? 0 : codewords);
           ASSERT_EQ(accepted, expected.has_value())
               << rows << "x" << columns << " " << codewords << " " << isExpanding;
           if (!accepted) continue;
