@@ -25,6 +25,8 @@ SHORT = 12  # a longer text is prose
 EQUIVALENT = (
     ("Code93Characters.cpp", r"kCode93Characters row (39|40|41|42|47)", r". -> .",
      "the names of $ / + % and start/stop are read by people alone: the signs are always written as pairs (D-93-1)"),
+    ("Code93Characters.cpp", r"kCode93Characters row 4[3-6]", r"\((.)\) -> \(\1[^)]",
+     "of the name of a shift character the sign alone is read"),
     ("Encodation.cpp", "kLatchCodewords row 0", "0 -> 1", "no mode has the number 0"),
     ("SymbologyFactory.cpp", r"kSymbologies row (?!2$|22$)\d+", "(true|false) -> (true|false)",
      "the column is read for Code 93 alone"),
@@ -37,6 +39,8 @@ EQUIVALENT = (
     ("Placement.cpp", "kUntouched", r"\\0 -> \\x01", "any letter that is no module does"),
     ("ReedSolomon.cpp", "kMaxDegree", "68 -> 69", "an array longer than needed"),
     ("HatchGrid.cpp", "kErrorPerAddition", ".*", "a margin: half of it is enough, and twice of it is room that stays empty"),
+    ("ThirdsSum.cpp", "kWeights row [0135-9]", "0 -> 1", "no character has so many thirds"),
+    ("Code11Symbology.cpp", r"kCode11Characters row ([1-7]|11)", r". -> .", "a name for people: rows are found by their value"),
     ("Code128Symbologies.cpp", "AppendByDigitRuns value", "CodeSet::kC -> CodeSet::kA", "the way out of set B is all that matters"),
     ("Code128Symbologies.cpp", "AppendFromSetA value", "CodeSet::kB -> CodeSet::kC in set = .*",
      "the way out of set A is all that matters"),
