@@ -2,10 +2,14 @@
 // independent readers.
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <string>
+#include <vector>
 
 #include "datamatrix/CodewordBuffer.h"
+#include "datamatrix/ComposedCodewords.h"
 #include "datamatrix/Interleaving.h"
+#include "datamatrix/MatrixReading.h"
 #include "datamatrix/Placement.h"
 #include "datamatrix/SizeTesting.h"
 #include "support/OwnedGrid.h"
@@ -29,19 +33,21 @@ std::string Digits(int codewords) {
   return digits;
 }
 
-OwnedGrid Symbol(const ReferenceSize& reference, const std::string& digits) {
-  SymbolSize size{};
-  EXPECT_FALSE(
-      ChooseSymbolSize(reference.data, {reference.rows, reference.columns, 0}, size).IsRefused());
-  CodewordBuffer codewords;
-  for (std::size_t i = 0; i < digits.size(); i += 2)
-    codewords.Append(130 + 10 * (digits[i] - '0') + (digits[i + 1] - '0'));
+// Pads and error correction are added to the codewords.
+OwnedGrid Symbol(const SymbolSize& size, CodewordBuffer& codewords) {
   codewords.PadTo(size.dataCodewords);
   Conformance how = Conformance::Device();
   AddErrorCorrection(size, how, codewords.data());
   std::string mapping(static_cast<std::size_t>(size.mappingRows * size.mappingColumns), 'x');
   PlaceCodewords(codewords.data(), size.mappingRows, size.mappingColumns, mapping.data());
   return test::Drawn(size, 1, mapping);
+}
+
+OwnedGrid Symbol(const ReferenceSize& reference, const std::string& digits) {
+  CodewordBuffer codewords;
+  for (std::size_t i = 0; i < digits.size(); i += 2)
+    codewords.Append(130 + 10 * (digits[i] - '0') + (digits[i + 1] - '0'));
+  return Symbol(test::SizeOf(reference), codewords);
 }
 
 // The grid as a picture of four pixels a module.
@@ -71,6 +77,26 @@ TEST(SymbolReading, ZxingReadsEverySizeFullAndNearlyEmpty) {
       EXPECT_EQ(TextRead(test::Reader::kZxing, grid), Digits(codewords))
           << size.rows << "x" << size.columns << " with " << codewords;
     }
+  }
+}
+
+// Every mode of the standard, ours or not, is read by the library as by a reader: FNC1 and macros,
+// which are no characters, included.
+TEST(SymbolReading, ZxingReadsComposedCodewordsAsTheLibraryDoes) {
+  test::Composer composer(5);
+  for (int round = 0; round < 1500; ++round) {
+    CodewordBuffer codewords;
+    for (const int codeword : composer.Compose()) codewords.Append(codeword);
+    SymbolSize size{};
+    ASSERT_FALSE(ChooseSymbolSize(codewords.Count(), {0, 0, 1}, size).IsRefused());
+    const OwnedGrid grid = Symbol(size, codewords);
+    std::string bytes(MostBytesRead(size.dataCodewords), '?');
+    std::size_t length = 0;
+    ASSERT_TRUE(
+        ReadCodewords(codewords.data(), size.dataCodewords, bytes.data(), bytes.size(), length));
+    bytes.resize(length);
+    ASSERT_EQ(TextRead(test::Reader::kZxing, grid), bytes) << testing::PrintToString(
+        std::vector<int>(codewords.data(), codewords.data() + codewords.Count()));
   }
 }
 

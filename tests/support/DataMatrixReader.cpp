@@ -197,8 +197,9 @@ class Reader {
 
   void ReadBase256() {
     std::size_t length = static_cast<std::size_t>(Unrandomised(next_++));
-    if (length == 0) length = Left();
-    if (length >= 250 && Left() > 0) {
+    if (length == 0) {
+      length = Left();
+    } else if (length >= 250 && Left() > 0) {
       length = (length - 249) * 250 + static_cast<std::size_t>(Unrandomised(next_++));
     }
     if (length > Left()) return Break();
