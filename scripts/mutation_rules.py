@@ -198,7 +198,7 @@ def function_name(bare, parameters_end):
     while depth:
         at -= 1
         depth += {")": 1, "(": -1}.get(bare[at], 0)
-    return re.search(r"[\w~]*\W*$", bare[:at])[0]
+    return re.search(r"\w*$", bare[max(0, at - 80):at])[0]
 
 
 def mutants_of(source, enumerations):
