@@ -4,6 +4,7 @@
 
 #include "job/CharacterClasses.h"
 #include "symbologies/LetterTables.h"
+#include "symbologies/PatternRows.h"
 #include "symbologies/PatternTables.h"
 #include "symbologies/TextRules.h"
 
@@ -56,10 +57,12 @@ static_assert(kCodabarCharacterCount == 20, "digits, six signs and four start/st
 static_assert(HaveWide(0, 11, 1, 1), "digits, '-' and '$': one wide bar, one space");
 static_assert(HaveWide(12, 15, 3, 0), "':', '/', '.' and '+': three wide bars");
 static_assert(HaveWide(16, 19, 1, 2), "start/stop: one wide bar, two wide spaces");
+static_assert(kCodabarCharacters[kCodabarStartA].character == 'A', "");
 static_assert(AllOfFullLength(kCodabarCharacters, &CodabarCharacter::elements), "7 elements");
 static_assert(AllDistinct(kCodabarCharacters, &CodabarCharacter::elements), "20 patterns");
 
 constexpr auto kLetters = ElementLetters<1>(kCodabarCharacters, &CodabarCharacter::elements);
+constexpr ElementRows<7> kValues(kLetters);
 constexpr CharacterRows MakeRows() {
   CharacterRows rows;
   rows.Add(kCodabarCharacters, &CodabarCharacter::otherName);
@@ -77,6 +80,10 @@ bool IsStartStop(char character) { return (ClassesOf(character) & kClassCodabarE
 const char* CodabarElements(char character) {
   return kCodabarCharacters[RowOf(character)].elements;
 }
+
+int CodabarValue(const char* letters) { return kValues.Find(letters); }
+
+char CodabarCharacterOf(int value) { return kCodabarCharacters[value].character; }
 
 Refusal CheckCodabarForm(const Characters& text, Conformance& how) {
   const std::size_t last = text.length - 1;

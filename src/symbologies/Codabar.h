@@ -26,6 +26,16 @@ void EncodeCodabar(const Characters& text, int variant, Conformance& how, Symbol
 // The seven elements of a character of the set, '1' wide.
 const char* CodabarElements(char character);
 
+// Symbol characters have the values of the standard's table: 0 to 9 the digits, 10 to 15 the signs
+// - $ : / . +, and from here on the start/stop characters A to D.
+constexpr int kCodabarStartA = 16;
+
+// The value of the character with these seven letters, kNoRow for any others.
+int CodabarValue(const char* letters);
+
+// REQUIRES: value in 0..19.
+char CodabarCharacterOf(int value);
+
 }  // namespace barhatch
 
 #endif

@@ -3,6 +3,7 @@
 #include "job/CharacterClasses.h"
 #include "symbologies/CyclicWeights.h"
 #include "symbologies/LetterTables.h"
+#include "symbologies/PatternRows.h"
 #include "symbologies/PatternTables.h"
 
 namespace barhatch {
@@ -34,12 +35,10 @@ constexpr Code11Character kCode11Characters[] = {
 };
 // clang-format on
 constexpr auto kLetters = ElementLetters<1>(kCode11Characters, &Code11Character::elements);
+constexpr ElementRows<5> kValues(kLetters);
 constexpr int kCode11CharacterCount = sizeof(kCode11Characters) / sizeof(kCode11Characters[0]);
-constexpr int kDash = 10;
-constexpr int kStartStop = 11;
 constexpr char kStartStopElements[] = "00110";
-constexpr int kModulus = 11;
-static_assert(IsSamePattern(kCode11Characters[kStartStop].elements, kStartStopElements), "");
+static_assert(IsSamePattern(kCode11Characters[kCode11StartStop].elements, kStartStopElements), "");
 
 constexpr bool TwoOfFiveWideButForThree() {
   for (const Code11Character& row : kCode11Characters) {
@@ -53,37 +52,37 @@ static_assert(TwoOfFiveWideButForThree(), "0, 9 and - have one wide element, all
 static_assert(AllOfFullLength(kCode11Characters, &Code11Character::elements), "5 elements");
 static_assert(AllDistinct(kCode11Characters, &Code11Character::elements), "12 patterns");
 
-constexpr std::size_t kLongestTextWithC = 10;  // alone; with K as well from the next one on
-
 struct CheckValues {
   int count;  // C alone or C and K
   int values[2];
 };
 
-int ValueOf(char character) { return character == '-' ? kDash : character - '0'; }
+int ValueOf(char character) { return character == '-' ? kCode11Dash : character - '0'; }
 
 void AddFromTheRight(const Characters& text, CyclicWeightedSum& sum) {
   for (std::size_t i = text.length; i-- > 0;) sum.Add(ValueOf(text.text[i]));
 }
 
 bool HasK(std::size_t length, Conformance& how) {
-  return length > kLongestTextWithC ||
-         (length == kLongestTextWithC && how.Deviates(Deviation::kD11_1));
+  return length > kCode11LongestTextWithC ||
+         (length == kCode11LongestTextWithC && how.Deviates(Deviation::kD11_1));
 }
 
 CheckValues ComputeCheckValues(const Characters& text, Conformance& how) {
-  CyclicWeightedSum weightedForC(1, 10);
+  CyclicWeightedSum weightedForC(1, kCode11LongestWeightOfC);
   AddFromTheRight(text, weightedForC);
-  const int c = weightedForC.Modulo(kModulus);
+  const int c = weightedForC.Modulo(kCode11CheckModulus);
   if (!HasK(text.length, how)) return {1, {c, 0}};
 
-  CyclicWeightedSum weightedForK(1, 9);
+  CyclicWeightedSum weightedForK(1, kCode11LongestWeightOfK);
   weightedForK.Add(c);
   AddFromTheRight(text, weightedForK);
-  return {2, {c, weightedForK.Modulo(kModulus)}};
+  return {2, {c, weightedForK.Modulo(kCode11CheckModulus)}};
 }
 
 }  // namespace
+
+int Code11Value(const char* letters) { return kValues.Find(letters); }
 
 void EncodeCode11(const Characters& text, int /*variant*/, Conformance& how, SymbolWriter& out) {
   const CheckValues check = ComputeCheckValues(text, how);
@@ -92,7 +91,7 @@ void EncodeCode11(const Characters& text, int /*variant*/, Conformance& how, Sym
   out.Open(6 * characters + 5);
   char* at = out.Room(6 * characters);
   if (at == nullptr) return;
-  at = CopyLetters(at, kLetters.rows[kStartStop]);
+  at = CopyLetters(at, kLetters.rows[kCode11StartStop]);
   for (std::size_t i = 0; i < text.length; ++i)
     at = CopyLetters(at, kLetters.rows[ValueOf(text.text[i])]);
   for (int i = 0; i < check.count; ++i) at = CopyLetters(at, kLetters.rows[check.values[i]]);

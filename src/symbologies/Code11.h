@@ -9,12 +9,28 @@
 #ifndef BARHATCH_SYMBOLOGIES_CODE11_H
 #define BARHATCH_SYMBOLOGIES_CODE11_H
 
+#include <cstddef>
+
 #include "symbologies/Encoder.h"
 
 namespace barhatch {
 
 // REQUIRES: digits and dashes. There is one variant.
 void EncodeCode11(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
+
+// Symbol characters have the values 0 to 10, '-' the last; start and stop stand outside.
+constexpr int kCode11Dash = 10;
+constexpr int kCode11StartStop = 11;
+
+// Check characters: remainders of the sums with weights from 1 on. C is taken over the data, K over
+// the data and C.
+constexpr int kCode11CheckModulus = 11;
+constexpr int kCode11LongestWeightOfC = 10;
+constexpr int kCode11LongestWeightOfK = 9;
+constexpr std::size_t kCode11LongestTextWithC = 10;  // alone; with K as well from the next one on
+
+// The value of the character with these five letters, kNoRow for any others.
+int Code11Value(const char* letters);
 
 }  // namespace barhatch
 

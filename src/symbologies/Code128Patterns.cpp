@@ -3,6 +3,7 @@
 #include <cassert>
 
 #include "symbologies/LetterTables.h"
+#include "symbologies/PatternRows.h"
 #include "symbologies/PatternTables.h"
 
 namespace barhatch {
@@ -181,8 +182,7 @@ constexpr LetterTable<kCode128CharacterCount, kCode128CharacterModules> ExpandWi
   return letters;
 }
 constexpr auto kLetters = ExpandWidths();
-
-constexpr char kTerminationBar[kCode128TerminationBarModules + 1] = "11";
+constexpr ModuleRows<kCode128CharacterModules> kValues(kLetters);
 
 constexpr int kCheckModulus = 103;
 
@@ -191,6 +191,8 @@ constexpr int kCheckModulus = 103;
 const char* Code128Widths(int value) {
   return value >= 0 && value < kCode128CharacterCount ? kCode128Characters[value].widths : nullptr;
 }
+
+int Code128Value(const char* letters) { return kValues.Find(letters); }
 
 void AppendCode128Characters(SymbolWriter& out, const std::uint8_t* values, int count) {
   char* at = out.Room(static_cast<std::size_t>(count * kCode128CharacterModules));
@@ -203,7 +205,7 @@ void AppendCode128Characters(SymbolWriter& out, const std::uint8_t* values, int 
 
 void AppendCode128Stop(SymbolWriter& out) {
   out.AppendLetters(kLetters.rows[kCode128Stop]);
-  out.AppendModules(kTerminationBar);
+  out.AppendModules(kCode128TerminationBar);
 }
 
 std::uint8_t Code128CheckValue(const std::uint8_t* values, int count) {

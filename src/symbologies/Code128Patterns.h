@@ -8,6 +8,7 @@
 #ifndef BARHATCH_SYMBOLOGIES_CODE128PATTERNS_H
 #define BARHATCH_SYMBOLOGIES_CODE128PATTERNS_H
 
+#include <cstddef>
 #include <cstdint>
 
 #include "symbologies/SymbolWriter.h"
@@ -16,8 +17,13 @@ namespace barhatch {
 
 // Values with a name; all others are data. A switch has the same value in every set it can be
 // written in.
+constexpr std::uint8_t kCode128Fnc3 = 96;   // A and B
+constexpr std::uint8_t kCode128Fnc2 = 97;   // A and B
+constexpr std::uint8_t kCode128Shift = 98;  // A and B
 constexpr std::uint8_t kCode128SwitchToC = 99;
-constexpr std::uint8_t kCode128SwitchToB = 100;
+constexpr std::uint8_t kCode128SwitchToB = 100;  // in B itself: FNC4
+constexpr std::uint8_t kCode128SwitchToA = 101;  // in A itself: FNC4
+constexpr std::uint8_t kCode128Fnc1 = 102;
 constexpr std::uint8_t kCode128StartA = 103;
 constexpr std::uint8_t kCode128StartB = 104;
 constexpr std::uint8_t kCode128StartC = 105;
@@ -25,10 +31,14 @@ constexpr std::uint8_t kCode128Stop = 106;
 
 constexpr int kCode128CharacterModules = 11;
 constexpr int kCode128TerminationBarModules = 2;
+constexpr char kCode128TerminationBar[kCode128TerminationBarModules + 1] = "11";
 
 // The six element widths of a value in modules, bar first, as digits: "212222" for 0. The stop
 // character comes without its termination bar. Null for a value outside 0..106.
 const char* Code128Widths(int value);
+
+// The value with these eleven letters, kNoRow for any others.
+int Code128Value(const char* letters);
 
 // Appends the 11 modules of each value. REQUIRES: values in 0..106.
 void AppendCode128Characters(SymbolWriter& out, const std::uint8_t* values, int count);
@@ -38,7 +48,9 @@ void AppendCode128Stop(SymbolWriter& out);
 
 // The check character of the values from the start character to the last data or switch value: the
 // start counts once, each later value as often as its position says, modulo 103.
-// 104 33 gives (104 + 1 x 33) mod 103 = 34. REQUIRES: count in 1..1000, values in 0..106.
+// 104 33 gives (104 + 1 x 33) mod 103 = 34. REQUIRES: count in 1..6300, values in 0..106: their sum
+// stays below 106 x 6300 x 6300 / 2, which is less than 2^31.
+constexpr std::size_t kMostCode128CheckedValues = 6300;
 std::uint8_t Code128CheckValue(const std::uint8_t* values, int count);
 
 }  // namespace barhatch

@@ -2,6 +2,7 @@
 
 #include "job/CharacterClasses.h"
 #include "symbologies/LetterTables.h"
+#include "symbologies/PatternRows.h"
 #include "symbologies/PatternTables.h"
 
 namespace barhatch {
@@ -82,10 +83,9 @@ constexpr bool DigitsAndLettersStandInOrder() {
   }
   return true;
 }
-constexpr int kStartStop = 36;
 constexpr int kPercent = 39;
 constexpr char kStartStopElements[] = "010010100";
-static_assert(IsSamePattern(kCode39Characters[kStartStop].elements, kStartStopElements), "");
+static_assert(IsSamePattern(kCode39Characters[kCode39StartStop].elements, kStartStopElements), "");
 static_assert(kCode39Characters[kPercent].character == '%',
               "the elements that the device writes for / as well");
 static_assert(DigitsAndLettersStandInOrder(), "0 to 9, then A to Z");
@@ -104,6 +104,7 @@ constexpr int kUnlistedLetter = 0;
 constexpr int kDeviceW = 1;
 
 constexpr auto kLetters = ElementLetters<1>(kCode39Characters, &Code39Character::elements);
+constexpr ElementRows<9> kPublishedRows(kLetters);
 constexpr auto kDeviceLetters = ElementLetters<1>(kDeviceCharacters, &Code39Character::elements);
 
 constexpr CharacterRows MakeRows() {
@@ -136,13 +137,17 @@ const char* Code39TableElements(int index, Conformance& how) {
   return row.elements;
 }
 
+int Code39Row(const char* letters) { return kPublishedRows.Find(letters); }
+
+char Code39CharacterOf(int row) { return kCode39Characters[row].character; }
+
 void EncodeCode39(const Characters& text, int /*variant*/, Conformance& how, SymbolWriter& out) {
   // Ten letters a character (nine elements and a gap) from the start on, and a stop without gap.
   const std::size_t letters = 10 * (text.length + 1);
   out.Open(letters + 9);
   char* at = out.Room(letters);
   if (at == nullptr) return;
-  at = CopyLetters(at, kLetters.rows[kStartStop]);
+  at = CopyLetters(at, kLetters.rows[kCode39StartStop]);
   for (std::size_t i = 0; i < text.length; ++i) at = CopyLetters(at, LettersOf(text.text[i], how));
   out.AppendElements(kStartStopElements);
 }

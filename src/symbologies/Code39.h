@@ -24,6 +24,15 @@ void EncodeCode39(const Characters& text, int variant, Conformance& how, SymbolW
 // letters, then * - $ % space . / +. REQUIRES: index in 0..43.
 const char* Code39TableElements(int index, Conformance& how);
 
+// Rows of the published table: the one of start and stop.
+constexpr int kCode39StartStop = 36;
+
+// The row with these nine letters, kNoRow for any others.
+int Code39Row(const char* letters);
+
+// REQUIRES: row in 0..43.
+char Code39CharacterOf(int row);
+
 }  // namespace barhatch
 
 #endif

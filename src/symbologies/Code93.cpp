@@ -8,7 +8,6 @@ namespace barhatch {
 namespace {
 
 constexpr std::size_t kModules = 9;
-constexpr char kTerminationBar[] = "1";
 
 struct TextSums {
   std::size_t characters;  // symbol characters of the text, those without a value among them
@@ -19,8 +18,8 @@ struct TextSums {
 
 TextSums SumFromTheRight(const Characters& text, Conformance& how) {
   TextSums sums = {0, 0, 0, 0};
-  CyclicWeightedSum weightedForC(1, 20);
-  CyclicWeightedSum weightedForK(1, 15);
+  CyclicWeightedSum weightedForC(1, kCode93LongestWeightOfC);
+  CyclicWeightedSum weightedForK(1, kCode93LongestWeightOfK);
   weightedForK.Add(0);  // the place of C, whose value is known at the end: weight 1
   for (std::size_t i = text.length; i-- > 0;) {
     const Code93Expansion& expansion = ExpandCode93(text.text[i], how);
@@ -70,7 +69,7 @@ void EncodeCode93(const Characters& text, int /*variant*/, Conformance& how, Sym
   at = CopyLetters<kModules>(at, Code93Letters(sums.c));
   at = CopyLetters<kModules>(at, Code93Letters(sums.k));
   CopyLetters<kModules>(at, Code93Letters(kCode93StartStop));
-  out.AppendModules(kTerminationBar);
+  out.AppendModules(kCode93TerminationBar);
 }
 
 }  // namespace barhatch

@@ -2,6 +2,7 @@
 
 #include "job/CharacterClasses.h"
 #include "symbologies/LetterTables.h"
+#include "symbologies/PatternRows.h"
 #include "symbologies/PatternTables.h"
 
 namespace barhatch {
@@ -68,6 +69,7 @@ constexpr Code93Character kCode93Characters[] = {
 };
 // clang-format on
 constexpr auto kLetters = ModuleLetters(kCode93Characters, &Code93Character::modules);
+constexpr ModuleRows<9> kValues(kLetters);
 constexpr int kCode93CharacterCount = sizeof(kCode93Characters) / sizeof(kCode93Characters[0]);
 
 constexpr bool ThreeBarsAndThreeSpacesEach() {
@@ -160,6 +162,31 @@ constexpr signed char kLastPairedSign = ValueOfCharacter('%');
 static_assert(kLastPairedSign - kFirstPairedSign + 1 == sizeof kSignPairs / sizeof *kSignPairs,
               "the four signs have values in a row");
 
+// The way back, by shift and value.
+struct PairedCharacters {
+  signed char characters[kCode93CheckModulus - kCode93FirstShift][kCode93CheckModulus];
+};
+
+constexpr void AddPair(PairedCharacters& pairs, const Code93Expansion& pair, int character) {
+  pairs.characters[pair.values[0] - kCode93FirstShift][pair.values[1]] =
+      static_cast<signed char>(character);
+}
+
+constexpr PairedCharacters MakePairs() {
+  PairedCharacters pairs{};
+  for (auto& ofShift : pairs.characters) {
+    for (signed char& character : ofShift) character = kCode93NoValue;
+  }
+  for (int byte = 0; byte < 128; ++byte) {
+    if (kAscii.of[byte].count == 2) AddPair(pairs, kAscii.of[byte], byte);
+  }
+  for (int sign = kFirstPairedSign; sign <= kLastPairedSign; ++sign)
+    AddPair(pairs, kSignPairs[sign - kFirstPairedSign], kCode93Characters[sign].symbol[0]);
+  return pairs;
+}
+constexpr PairedCharacters kPairs = MakePairs();
+static_assert(ValueOfShift('$') == kCode93FirstShift, "the shift characters are the last four");
+
 constexpr bool EveryAsciiCharacterHasValues() {
   for (int byte = 0; byte < 128; ++byte) {
     for (int i = 0; i < kAscii.of[byte].count; ++i) {
@@ -183,6 +210,14 @@ const Code93Expansion& ExpandCode93(char byte, Conformance& how) {
 }
 
 const char* Code93Letters(int value) { return kLetters.rows[value]; }
+
+int Code93Value(const char* letters) { return kValues.Find(letters); }
+
+char Code93CharacterOf(int value) { return kCode93Characters[value].symbol[0]; }
+
+int Code93CharacterOfPair(int shift, int value) {
+  return kPairs.characters[shift - kCode93FirstShift][value];
+}
 
 const char* Code93Modules(int value) {
   return value >= 0 && value < kCode93CharacterCount ? kCode93Characters[value].modules : nullptr;

@@ -13,6 +13,8 @@ namespace barhatch {
 
 // The values take part in the check sums modulo 47; the start/stop character stands outside.
 constexpr int kCode93CheckModulus = 47;
+constexpr int kCode93LongestWeightOfC = 20;
+constexpr int kCode93LongestWeightOfK = 15;
 constexpr int kCode93StartStop = 47;
 
 // Stands for the value of a byte that no Code 93 character can represent.
@@ -32,6 +34,21 @@ const char* Code93Modules(int value);
 
 // The same as letters of a module string. REQUIRES: value in 0..47.
 const char* Code93Letters(int value);
+
+// The value 0..47 with these nine letters, kCode93NoValue for any others.
+int Code93Value(const char* letters);
+
+// The four shift characters have the values from here to 46; below, each stands for itself.
+constexpr int kCode93FirstShift = 43;
+
+// REQUIRES: value below kCode93FirstShift.
+char Code93CharacterOf(int value);
+
+// The ASCII character of a shift character and the one behind it, kCode93NoValue where full ASCII
+// has no such pair. REQUIRES: shift in kCode93FirstShift..46, value in 0..46.
+int Code93CharacterOfPair(int shift, int value);
+
+constexpr char kCode93TerminationBar[] = "1";
 
 }  // namespace barhatch
 

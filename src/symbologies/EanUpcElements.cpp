@@ -5,6 +5,7 @@
 #include <cstring>
 
 #include "job/CharacterClasses.h"
+#include "symbologies/PatternRows.h"
 #include "symbologies/PatternTables.h"
 
 namespace barhatch {
@@ -48,6 +49,17 @@ constexpr DigitLetters MakeDigitLetters() {
   return letters;
 }
 constexpr DigitLetters kLetters = MakeDigitLetters();
+
+// All thirty, set by set.
+constexpr LetterTable<30, kDigitModules> ListDigits() {
+  LetterTable<30, kDigitModules> list{};
+  for (int row = 0; row < 30; ++row) {
+    for (int i = 0; i < kDigitModules; ++i)
+      list.rows[row][i] = kLetters.sets[row / 10][row % 10][i];
+  }
+  return list;
+}
+constexpr ModuleRows<kDigitModules> kDrawnDigits(ListDigits());
 
 constexpr const char* ModulesOf(int digit, NumberSet set) {
   return kDigits[digit].sets[static_cast<int>(set)];
@@ -224,6 +236,13 @@ void InsertCheckDigit(const EanUpcLayout& layout, char* working) {
 }
 
 const char* EncodeDigit(char digit, NumberSet set) { return ModulesOf(ValueOf(digit), set); }
+
+bool FindDigit(const char* letters, DrawnDigit& found) {
+  const int row = kDrawnDigits.Find(letters);
+  if (row == kNoRow) return false;
+  found = {static_cast<char>('0' + row % 10), static_cast<NumberSet>(row / 10)};
+  return true;
+}
 
 const char* FirstDigitParity(char firstDigit) {
   return kFirstDigits.rows[ValueOf(firstDigit)].parities;

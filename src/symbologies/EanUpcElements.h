@@ -78,10 +78,13 @@ constexpr const EanUpcLayout& EanUpcLayoutOf(EanUpcSymbol symbol) {
 
 constexpr char kNormalGuard[] = "101";
 constexpr char kCentreGuard[] = "01010";
+constexpr char kUpcEEndGuard[] = "010101";
 constexpr char kAddonStartGuard[] = "1011";
 constexpr char kAddonSeparator[] = "01";
 constexpr int kAddonGapModules = 9;  // 9 to 12 beside UPC, 7 to 12 beside EAN
 constexpr int kDeviceAddonGapModules = 8;
+constexpr int kLeastAddonGapModules = 7;
+constexpr int kMostAddonGapModules = 12;
 
 constexpr int kCheckModulus = 10;
 
@@ -101,6 +104,13 @@ void InsertCheckDigit(const EanUpcLayout& layout, char* working);
 
 // The seven modules of a digit '0' to '9'.
 const char* EncodeDigit(char digit, NumberSet set);
+
+// The digit and the set with these seven letters; false for letters that no set has.
+struct DrawnDigit {
+  char digit;
+  NumberSet set;
+};
+bool FindDigit(const char* letters, DrawnDigit& found);
 
 // Parities, one character per drawn digit: '0' for a digit from L, '1' for one from G.
 //
@@ -123,11 +133,13 @@ void AppendDigits(SymbolWriter& out, const char* digits, int count, NumberSet se
 void AppendAddon(SymbolWriter& out, const EanUpcLayout& layout, const char* addon,
                  Conformance& how);
 
+// Of an add-on without the gap: start guard, seven modules a digit, two between digits.
+constexpr int AddonModules(int digits) { return 4 + 7 * digits + 2 * (digits - 1); }
+
 // Letters of the symbol with its add-on, at most.
 constexpr std::size_t MostModules(const EanUpcLayout& layout) {
   const int digits = layout.addonDigits;
-  // Start guard, seven modules a digit, two between digits.
-  const int addon = digits == 0 ? 0 : kAddonGapModules + 4 + 7 * digits + 2 * (digits - 1);
+  const int addon = digits == 0 ? 0 : kAddonGapModules + AddonModules(digits);
   return static_cast<std::size_t>(layout.mainModules + addon);
 }
 

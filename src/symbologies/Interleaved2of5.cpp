@@ -1,6 +1,7 @@
 #include "symbologies/Interleaved2of5.h"
 
 #include "job/CharacterClasses.h"
+#include "symbologies/PatternRows.h"
 
 namespace barhatch {
 
@@ -24,9 +25,6 @@ constexpr char kDigitElements[10][6] = {
     "01010",  // 9
 };
 // clang-format on
-constexpr char kStartElements[] = "0000";
-constexpr char kStopElements[] = "100";
-
 constexpr int kElementsOfDigit = 5;
 constexpr int kElementWeights[kElementsOfDigit] = {1, 2, 4, 7, 0};
 
@@ -55,6 +53,7 @@ static_assert(EveryRowStandsForItsIndex(), "two of five wide, and their weights 
 constexpr std::size_t kFrameLetters = 4 + 3;
 
 constexpr std::size_t kPairLetters = 2 * kElementsOfDigit;
+static_assert(kPairLetters == kInterleaved2of5PairLetters, "");
 
 // The digits as bars and as spaces.
 struct ShadedDigits {
@@ -73,6 +72,18 @@ constexpr ShadedDigits ShadeDigits() {
   return shaded;
 }
 constexpr ShadedDigits kLetters = ShadeDigits();
+
+constexpr LetterTable<100, kPairLetters> DrawPairs() {
+  LetterTable<100, kPairLetters> pairs{};
+  for (int pair = 0; pair < 100; ++pair) {
+    for (int i = 0; i < kElementsOfDigit; ++i) {
+      pairs.rows[pair][2 * i] = kLetters.bars[pair / 10][i];
+      pairs.rows[pair][2 * i + 1] = kLetters.spaces[pair % 10][i];
+    }
+  }
+  return pairs;
+}
+constexpr ElementRows<kPairLetters> kPairs(DrawPairs());
 
 // The first digit in the bars, the second in the spaces.
 char* DrawPair(char* at, char first, char second) {
@@ -101,18 +112,20 @@ const char* Interleaved2of5Elements(char digit) {
   return IsDigit(digit) ? kDigitElements[digit - '0'] : nullptr;
 }
 
+int Interleaved2of5Pair(const char* letters) { return kPairs.Find(letters); }
+
 void EncodeInterleaved2of5(const Characters& text, int /*variant*/, Conformance& /*how*/,
                            SymbolWriter& out) {
   const char* next = text.text;
   const char* const end = text.text + text.length;
   const std::size_t letters = kPairLetters * ((text.length + 1) / 2);
   out.Open(kFrameLetters + letters);
-  out.AppendElements(kStartElements);
+  out.AppendElements(kInterleaved2of5Start);
   char* at = out.Room(letters);
   if (at == nullptr) return;
   if (text.length % 2 != 0) at = DrawPair(at, '0', *next++);
   for (; next < end; next += 2) at = DrawPair(at, next[0], next[1]);
-  out.AppendElements(kStopElements);
+  out.AppendElements(kInterleaved2of5Stop);
 }
 
 }  // namespace barhatch

@@ -26,6 +26,13 @@ char Interleaved2of5CheckDigit(const Characters& digits, Conformance& how);
 // The five elements of a digit, '1' wide, '0' narrow; null for any other character.
 const char* Interleaved2of5Elements(char digit);
 
+constexpr char kInterleaved2of5Start[] = "0000";
+constexpr char kInterleaved2of5Stop[] = "100";
+constexpr int kInterleaved2of5PairLetters = 10;
+
+// The number 0..99 of the pair of digits with these ten letters, kNoRow for any others.
+int Interleaved2of5Pair(const char* letters);
+
 // REQUIRES: digits. There is one variant.
 void EncodeInterleaved2of5(const Characters& text, int variant, Conformance& how,
                            SymbolWriter& out);

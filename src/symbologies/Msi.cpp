@@ -1,14 +1,15 @@
 #include "symbologies/Msi.h"
 
+#include <cstring>
+
 #include "symbologies/CyclicWeights.h"
 #include "symbologies/LetterTables.h"
+#include "symbologies/PatternRows.h"
 
 namespace barhatch {
 
 namespace {
 
-constexpr char kStart[] = "110";
-constexpr char kStop[] = "1001";
 constexpr char kZeroBit[] = "100";
 constexpr char kOneBit[] = "110";
 
@@ -18,12 +19,11 @@ constexpr char kOneBit[] = "110";
 int DoubledDigitSum(int digit) { return digit < 5 ? 2 * digit : 2 * digit - 10 + 1; }
 
 constexpr int kDigits = 11;  // a check of 10 as well
-constexpr int kDigitLetters = 12;
 
-constexpr LetterTable<kDigits, kDigitLetters> SpreadBits() {
-  LetterTable<kDigits, kDigitLetters> letters{};
+constexpr LetterTable<kDigits, kMsiDigitLetters> SpreadBits() {
+  LetterTable<kDigits, kMsiDigitLetters> letters{};
   for (int value = 0; value < kDigits; ++value) {
-    for (int i = 0; i < kDigitLetters; ++i) {
+    for (int i = 0; i < kMsiDigitLetters; ++i) {
       const char* bit = (value << i / 3 & 8) != 0 ? kOneBit : kZeroBit;
       letters.rows[value][i] = ModuleLetter(bit[i % 3]);
     }
@@ -52,17 +52,24 @@ char MsiModulo11Check(const Characters& digits) {
   return static_cast<char>('0' + (11 - sum.Modulo(11)) % 11);
 }
 
+int MsiDigit(const char* letters) {
+  for (int digit = 0; digit < 10; ++digit) {
+    if (std::memcmp(kLetters.rows[digit], letters, kMsiDigitLetters) == 0) return digit;
+  }
+  return kNoRow;
+}
+
 void EncodeMsi(const Characters& text, int variant, Conformance& /*how*/, SymbolWriter& out) {
   const bool isModulo11 = static_cast<MsiCheckScheme>(variant) == MsiCheckScheme::kModulo11;
   // Twelve letters for each digit and the check digit, start and stop.
-  const std::size_t letters = kDigitLetters * (text.length + 1);
+  const std::size_t letters = kMsiDigitLetters * (text.length + 1);
   out.Open(letters + 3 + 4);
-  out.AppendModules(kStart);
+  out.AppendModules(kMsiStart);
   char* at = out.Room(letters);
   if (at == nullptr) return;
   for (std::size_t i = 0; i < text.length; ++i) at = DrawDigit(at, text.text[i]);
   DrawDigit(at, isModulo11 ? MsiModulo11Check(text) : MsiModulo10Check(text));
-  out.AppendModules(kStop);
+  out.AppendModules(kMsiStop);
 }
 
 }  // namespace barhatch

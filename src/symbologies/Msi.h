@@ -18,6 +18,13 @@ enum class MsiCheckScheme {
   kModulo11,
 };
 
+constexpr char kMsiStart[] = "110";
+constexpr char kMsiStop[] = "1001";
+constexpr int kMsiDigitLetters = 12;
+
+// The digit with these twelve letters, kNoRow for any others.
+int MsiDigit(const char* letters);
+
 // REQUIRES: digits. variant: an MsiCheckScheme.
 void EncodeMsi(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
 

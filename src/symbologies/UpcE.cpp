@@ -22,8 +22,6 @@ constexpr char kExpansions[10][kUpcADigits + 1] = {
     "Nabcde0000f",  // 9
 };
 
-constexpr char kUpcEEndGuard[] = "010101";
-
 // Six digits that suppressing the zeros of a UPC-A number gives.
 bool IsSuppressedForm(const char* six) {
   const char last = six[5];
