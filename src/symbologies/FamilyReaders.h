@@ -1,0 +1,59 @@
+// The readers behind SymbologyReaders.h, one for each family of symbologies. A reader appends
+// values and text to a reading that is empty, and says whether there is a symbol; what it leaves in
+// the text of none is thrown away.
+#ifndef BARHATCH_SYMBOLOGIES_FAMILYREADERS_H
+#define BARHATCH_SYMBOLOGIES_FAMILYREADERS_H
+
+#include <cstddef>
+#include <cstdint>
+
+#include "symbologies/SymbologyReaders.h"
+
+namespace barhatch {
+
+// variant: that of the encoder of the family; its header says which symbologies share it.
+using Reader = bool (*)(const char* letters, std::size_t length, int variant,
+                        SymbolReading& reading);
+
+// TwoWidthReaders.cpp: elements that are wide or narrow.
+//
+// Starts and stops with A to D, which stand nowhere else.
+bool ReadCodabar(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+// From the start character to the first stop character, whatever stands behind it.
+bool ReadCode39(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+// C and K where more than ten data characters are left in front of them, else C alone.
+bool ReadCode11(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadInterleaved2of5(const char* letters, std::size_t length, int variant,
+                         SymbolReading& reading);
+
+// ModuleReaders.cpp: single modules, characters of one size.
+//
+bool ReadCode93(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+// One modulo-10 check digit.
+bool ReadMsi(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+
+// Code128Reader.cpp
+bool ReadCode128(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+
+// EanUpcReader.cpp: the symbol that the variant names, an EanUpcSymbol, with its add-on. UPC-A is
+// EAN-13 with a first digit 0, as which it is read for the types of EAN-13.
+bool ReadEan13UpcA(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadEan8(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadUpcE(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+
+inline void AddValue(SymbolReading& reading, int value) {
+  reading.values[reading.valuesCount++] = static_cast<std::uint8_t>(value);
+}
+
+inline void AddText(SymbolReading& reading, int byte) {
+  reading.text[reading.textLength++] = static_cast<char>(byte);
+}
+
+inline void AddDigit(SymbolReading& reading, int digit) {
+  AddValue(reading, digit);
+  AddText(reading, '0' + digit);
+}
+
+}  // namespace barhatch
+
+#endif
