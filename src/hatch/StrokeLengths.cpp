@@ -28,7 +28,7 @@ StrokeLengths MeasureStrokes(const double* coordinates, std::size_t count, Filli
 }
 
 void Translate(double* coordinates, std::size_t count, double dx, double dy) {
-  for (std::size_t at = 0; at + 1 < count; at += 2) {
+  for (std::size_t at = 0; at < count; at += kDoublesPerPoint) {
     coordinates[at] += dx;
     coordinates[at + 1] += dy;
   }

@@ -19,7 +19,8 @@ struct StrokeLengths {
 // REQUIRES: whole segments, or whole points: count doubles, four or two for each.
 StrokeLengths MeasureStrokes(const double* coordinates, std::size_t count, FillingShape shape);
 
-// Moves count doubles, x and y by turns, by dx to the right and dy upwards.
+// Moves the points of either shape, x and y by turns, by dx to the right and dy upwards.
+// REQUIRES: whole points.
 void Translate(double* coordinates, std::size_t count, double dx, double dy);
 
 }  // namespace barhatch

@@ -48,10 +48,12 @@ TEST(Hatch, StartsEveryRowOfAMatrixForward) {
 
 TEST(Hatch, FillsNothingByUnknownPatternsAndGapsThatAreNoPitch) {
   ElementRows rows("A", {1.0, 3.0, 1.0}, FilledElements::kDark, RuntimeMemory());
-  for (int pattern : {-1, 4, 7}) {
-    EXPECT_EQ(CountAndFill(rows, DarkFilling(pattern, 0.5)), std::vector<double>{}) << pattern;
+  for (const Filling& nothing : {DarkFilling(-1, 0.5), DarkFilling(4, 0.5), DarkFilling(7, 0.5),
+                                 DarkFilling(0, 0.0), DarkFilling(5, -1.0)}) {
+    SCOPED_TRACE(nothing.pattern);
+    EXPECT_EQ(MostDoubles(rows, nothing), 0);
+    EXPECT_EQ(CountAndFill(rows, nothing), std::vector<double>{});
   }
-  EXPECT_EQ(CountAndFill(rows, DarkFilling(0, 0.0)), std::vector<double>{});
 }
 
 TEST(Hatch, NeedsNoRoomWhereNoElementIsFilled) {
