@@ -23,10 +23,9 @@ Header HeaderOf(std::int32_t format) {
   return format >= 0 && format <= 3 ? kHeaders[format] : Header::kNone;
 }
 
-SymbolJob JobOf(const BarcodeSettings& settings) {
-  SymbolJob job{};
+MatrixJob JobOf(const BarcodeSettings& settings) {
+  MatrixJob job{};
   job.text = {settings.DataString, LengthOf(settings.DataString)};
-  job.inForce = DeviationSet::All();
   job.quietModules = settings.QuietZone != 0 ? kStandardQuietZone : kNoQuietZone;
   job.size = RequestFromMatrixSize(settings.MatrixSize, settings.IsExpanding);
   job.header = HeaderOf(settings.format);

@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "barhatch.h"
-#include "datamatrix/DataMatrix.h"
+#include "mark/Mark.h"
 #include "api/Symbology.h"
 
 namespace barhatch {

@@ -3,7 +3,7 @@
 #define BARHATCH_API_FILLBUFFER_H
 
 #include "barhatch.h"
-#include "hatch/Hatch.h"
+#include "mark/Mark.h"
 
 namespace barhatch {
 

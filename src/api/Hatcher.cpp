@@ -2,7 +2,7 @@
 
 #include "api/BarcodeSettings.h"
 #include "api/FillBuffer.h"
-#include "hatch/Hatch.h"
+#include "mark/Mark.h"
 
 namespace barhatch {
 

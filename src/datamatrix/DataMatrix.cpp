@@ -12,7 +12,7 @@ namespace {
 constexpr int kMacro05Codeword = 236;
 constexpr int kMacro06Codeword = 237;
 
-Refusal CheckJob(const SymbolJob& job) {
+Refusal CheckJob(const MatrixJob& job) {
   if (job.quietModules > kMostQuietModules) return {Reason::kOption, -1, job.quietModules};
   if (job.text.length <= kMaxDataMatrixText) return {};
   return {Reason::kLength, -1, static_cast<std::int32_t>(job.text.length)};
@@ -41,7 +41,7 @@ Refusal Draw(const Memory& memory, MatrixSymbol& symbol) {
   return {symbol.letters != nullptr ? Reason::kNone : Reason::kNoMemory};
 }
 
-Refusal EncodeStages(const SymbolJob& job, Conformance& how, const Memory& memory,
+Refusal EncodeStages(const MatrixJob& job, Conformance& how, const Memory& memory,
                      MatrixSymbol& symbol) {
   if (const Refusal refusal = CheckJob(job); refusal.IsRefused()) return refusal;
   CodewordBuffer& codewords = symbol.codewords;
@@ -59,7 +59,7 @@ Refusal EncodeStages(const SymbolJob& job, Conformance& how, const Memory& memor
 
 }  // namespace
 
-Refusal EncodeDataMatrix(const SymbolJob& job, Conformance& how, const Memory& memory,
+Refusal EncodeDataMatrix(const MatrixJob& job, Conformance& how, const Memory& memory,
                          MatrixSymbol& symbol) {
   const Refusal refusal = EncodeStages(job, how, memory, symbol);
   if (refusal.IsRefused()) how.ForgetMet();

@@ -49,7 +49,7 @@ struct MatrixSymbol {
 //   kNoMemory
 // The codewords of the text are appended to those that the symbol holds already: none, in one just
 // made.
-Refusal EncodeDataMatrix(const SymbolJob& job, Conformance& how, const Memory& memory,
+Refusal EncodeDataMatrix(const MatrixJob& job, Conformance& how, const Memory& memory,
                          MatrixSymbol& symbol);
 
 }  // namespace barhatch

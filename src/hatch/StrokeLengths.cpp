@@ -18,11 +18,13 @@ double Distance(const double* from, const double* to) {
 StrokeLengths MeasureStrokes(const double* coordinates, std::size_t count, FillingShape shape) {
   const bool areSegments = shape == FillingShape::kSegments;
   const std::size_t doubles = areSegments ? kDoublesPerSegment : kDoublesPerPoint;
-  StrokeLengths lengths{0.0, 0.0};
+  StrokeLengths lengths{0.0, 0.0, 0};
   for (std::size_t at = 0; at < count; at += doubles) {
     const double* start = coordinates + at;
     if (areSegments) lengths.mark += Distance(start, start + 2);
-    if (at != 0) lengths.jump += Distance(start - 2, start);
+    const double jump = at != 0 ? Distance(start - 2, start) : 0.0;
+    lengths.jump += jump;
+    if (jump > 0.0) ++lengths.jumps;
   }
   return lengths;
 }

@@ -12,6 +12,7 @@ namespace barhatch {
 struct StrokeLengths {
   double mark;  // of all segments; points have none
   double jump;  // from the end of each segment to the start of the next, or from point to point
+  std::size_t jumps;  // those of some length
 };
 
 // The way to the first stroke and the way back from the last are no jumps. A segment that begins

@@ -43,14 +43,12 @@ enum class Header : std::uint8_t {
   kMacro06,     // ISO/IEC 15434, format 06
 };
 
-// A symbol: everything but its size on the part.
-struct SymbolJob {
-  std::int32_t symbology;  // 0..22 for a linear one
-  TextUnits text;
-  DeviationSet inForce;
+// A Data Matrix: everything but its size on the part.
+struct MatrixJob {
+  TextUnits text;             // up to 255 data, above an ECI designator
   std::int32_t quietModules;  // or kNoQuietZone, kStandardQuietZone
-  SizeRequest size;           // of a Data Matrix
-  Header header;              // of a Data Matrix
+  SizeRequest size;
+  Header header;
 };
 
 // A linear symbol: likewise.

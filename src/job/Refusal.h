@@ -10,6 +10,7 @@ enum class Reason : std::uint8_t {
   kNone,                // not refused
   kOption,              // a number that names nothing; figure: that number
   kEmpty,               // text of no characters
+  kNoUtf8,              // position: of a byte that belongs to no character
   kCharacter,           // position: of a character that the symbology lacks; figure: its code
   kLength,              // figure: the characters there are
   kNoStart,             // position: where a start character should stand

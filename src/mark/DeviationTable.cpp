@@ -147,24 +147,24 @@ const DeviationRow kDeviationRows[kDeviationCount] = {
      "behind a latch: wrong text, as 232 is read as data of that mode; else: the text without "
      "FNC1"},
     {"D-DM-7",
-     "where one more codeword would fill the smallest square that holds more than those written, "
-     "C40, Text and X12 are left without 254 for another mode, and they and EDIFACT at the end of "
-     "the text: whatever the symbol and whatever follows",
+     "behind whole groups of values, where one more codeword would fill the smallest square that "
+     "holds more than those written, C40, Text and X12 are left without 254 for another mode, and "
+     "they and EDIFACT at the end of the text: whatever the symbol and whatever follows",
      "the unlatch is left out at the end of the symbol alone",
-     "mode changes at 2, 4, 7, 11, 17, ... codewords; texts that end there in a larger or "
-     "rectangular symbol",
+     "mode changes without a pad at 2, 4, 7, 11, 17, ... codewords; texts that end there in a "
+     "larger or rectangular symbol",
      "what follows is read as data of the mode that was left: wrong text behind the right "
      "beginning (at the end of the text: the pads as characters)"},
     {"D-DM-8",
      "at the end of a text in C40, Text, X12 or EDIFACT the unlatch is written also where the "
-     "symbol would be full without it: behind a whole group; in C40, Text and X12 in front of one "
-     "character that would fill a rectangle of 10, 16, 32 or 49 codewords; in C40 and Text in "
-     "front of characters whose values would fill the last two codewords, with a pad or without",
+     "symbol would be full without it: behind a whole group; in C40 and Text where the group that "
+     "ends the text leaves values over, and where one or two characters behind the last group "
+     "have, with the values that wait, more than three",
      "no unlatch in these cases",
      "texts that end at 3, 5, 8, 12, ... codewords in these modes, or would end there by the book; "
      "in rectangles at 10, 16, 32 and 49",
-     "nothing: the next symbol size, a refusal where that does not suit the request or does not "
-     "exist, or a rectangle whose last codeword is the unlatch"},
+     "nothing: as a rule the next symbol size, a refusal where that does not suit the request or "
+     "does not exist, or a rectangle whose last codeword is the unlatch"},
     {"D-DM-9", "EDIFACT writes the low six bits of any character",
      "EDIFACT has the characters from space to ^ alone",
      "other characters that the look-ahead takes along in EDIFACT",

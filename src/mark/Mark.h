@@ -5,6 +5,8 @@
 
 #include <cstddef>
 
+#include "datamatrix/DataMatrix.h"  // EncodeDataMatrix: a MatrixJob becomes a grid of modules
+#include "hatch/Hatch.h"            // ElementRows, MostDoubles, Fill: elements become strokes
 #include "job/Deviations.h"
 #include "job/Job.h"
 #include "job/Memory.h"

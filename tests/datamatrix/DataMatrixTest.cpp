@@ -30,8 +30,8 @@ struct CountingMemory {
   }
 };
 
-SymbolJob JobOf(const std::u16string& text) {
-  SymbolJob job{};
+MatrixJob JobOf(const std::u16string& text) {
+  MatrixJob job{};
   job.text = {text.data(), text.size()};
   job.quietModules = kNoQuietZone;
   job.size = {0, 0, 1};
@@ -42,7 +42,7 @@ class DataMatrixDoor : public testing::Test {
  protected:
   ~DataMatrixDoor() override { RuntimeMemory().Release(symbol_.letters); }
 
-  Refusal Encode(const SymbolJob& job) {
+  Refusal Encode(const MatrixJob& job) {
     return EncodeDataMatrix(job, how_, RuntimeMemory(), symbol_);
   }
 
@@ -73,7 +73,7 @@ TEST_F(DataMatrixDoor, PadsDoNotCount) {
 
 TEST_F(DataMatrixDoor, TextNeedsNoZeroBehindIt) {
   const std::u16string text = u"123456";
-  SymbolJob job = JobOf(text);
+  MatrixJob job = JobOf(text);
   job.text.length = 2;
   ASSERT_FALSE(Encode(job).IsRefused());
   EXPECT_EQ(symbol_.codewords.Count(), 1);
@@ -93,7 +93,7 @@ TEST_F(DataMatrixDoor, BordersOfEveryKind) {
   } const borders[] = {{kNoQuietZone, 0}, {-7, 0}, {kStandardQuietZone, 1}, {1, 1}, {2, 2},
                        {40, 40}};
   for (const auto& border : borders) {
-    SymbolJob job = JobOf(text);
+    MatrixJob job = JobOf(text);
     job.quietModules = border.requested;
     MatrixSymbol symbol;
     ASSERT_FALSE(EncodeDataMatrix(job, how_, RuntimeMemory(), symbol).IsRefused());
@@ -108,7 +108,7 @@ TEST_F(DataMatrixDoor, BordersOfEveryKind) {
 
 TEST_F(DataMatrixDoor, BorderBeyondTheLimitIsRefused) {
   const std::u16string text = u"12";
-  SymbolJob job = JobOf(text);
+  MatrixJob job = JobOf(text);
   job.quietModules = kMostQuietModules;
   ASSERT_FALSE(Encode(job).IsRefused());
   job.quietModules = kMostQuietModules + 1;
@@ -130,7 +130,7 @@ TEST_F(DataMatrixDoor, RefusalsCarryReasonAndFigure) {
   EXPECT_EQ(refusal.figure, 1559);
 
   const std::u16string text = u"12345678901234567890";
-  SymbolJob job = JobOf(text);
+  MatrixJob job = JobOf(text);
   job.size = {10, 10, 0};
   MatrixSymbol symbol;
   refusal = EncodeDataMatrix(job, how_, RuntimeMemory(), symbol);
@@ -141,7 +141,7 @@ TEST_F(DataMatrixDoor, RefusalsCarryReasonAndFigure) {
 
 TEST_F(DataMatrixDoor, RefusedSymbolHasMetNothing) {
   const std::u16string text = u"\x81\x81\x81";
-  SymbolJob job = JobOf(text);
+  MatrixJob job = JobOf(text);
   job.size = {10, 10, 0};
   EXPECT_TRUE(Encode(job).IsRefused());
   EXPECT_EQ(how_.Met().Bits(), 0u);

@@ -21,19 +21,20 @@ struct Case {
   Numbers coordinates;
   double mark;
   double jump;
+  std::size_t jumps;
 };
 
 const Case kCases[] = {
-    {"nothing", FillingShape::kSegments, {}, 0, 0},
-    {"one segment across", FillingShape::kSegments, {1, 7, 4, 7}, 3, 0},
-    {"one segment downwards", FillingShape::kSegments, {1, 7, 1, 2}, 5, 0},
-    {"a slanted one", FillingShape::kSegments, {-1, -1, 2, 3}, 5, 0},
-    {"two the same way", FillingShape::kSegments, {0, 0, 3, 0, 0, 4, 3, 4}, 6, 5},
-    {"two that alternate", FillingShape::kSegments, {0, 0, 3, 0, 3, 4, 0, 4}, 6, 4},
-    {"one that goes on", FillingShape::kSegments, {0, 0, 3, 0, 3, 0, 3, 4}, 7, 0},
-    {"one of no length", FillingShape::kSegments, {0, 0, 0, 0, 0, 2, 0, 2}, 0, 2},
-    {"one point", FillingShape::kPoints, {8, 8}, 0, 0},
-    {"three points", FillingShape::kPoints, {0, 0, 3, 4, 3, 6}, 0, 7},
+    {"nothing", FillingShape::kSegments, {}, 0, 0, 0},
+    {"one segment across", FillingShape::kSegments, {1, 7, 4, 7}, 3, 0, 0},
+    {"one segment downwards", FillingShape::kSegments, {1, 7, 1, 2}, 5, 0, 0},
+    {"a slanted one", FillingShape::kSegments, {-1, -1, 2, 3}, 5, 0, 0},
+    {"two the same way", FillingShape::kSegments, {0, 0, 3, 0, 0, 4, 3, 4}, 6, 5, 1},
+    {"two that alternate", FillingShape::kSegments, {0, 0, 3, 0, 3, 4, 0, 4}, 6, 4, 1},
+    {"one that goes on", FillingShape::kSegments, {0, 0, 3, 0, 3, 0, 3, 4}, 7, 0, 0},
+    {"one of no length", FillingShape::kSegments, {0, 0, 0, 0, 0, 2, 0, 2}, 0, 2, 1},
+    {"one point", FillingShape::kPoints, {8, 8}, 0, 0, 0},
+    {"three points", FillingShape::kPoints, {0, 0, 3, 4, 3, 6}, 0, 7, 2},
 };
 
 TEST(StrokeLengths, AreThoseOfTheCases) {
@@ -41,6 +42,7 @@ TEST(StrokeLengths, AreThoseOfTheCases) {
     const StrokeLengths lengths = Measure(c.coordinates, c.shape);
     EXPECT_EQ(lengths.mark, c.mark) << c.name;
     EXPECT_EQ(lengths.jump, c.jump) << c.name;
+    EXPECT_EQ(lengths.jumps, c.jumps) << c.name;
   }
 }
 

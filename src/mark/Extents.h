@@ -1,0 +1,28 @@
+// How large the modules of a symbol are, and where it lies.
+#ifndef BARHATCH_MARK_EXTENTS_H
+#define BARHATCH_MARK_EXTENTS_H
+
+#include "barhatch_mark.h"
+#include "job/Job.h"
+#include "mark/MarkedSymbol.h"
+
+namespace barhatch {
+
+struct Extents {
+  double moduleSize;
+  double wideSize;
+  double barHeight;  // of a linear symbol
+  double shiftX;     // of the drawn symbol, whose own origin is its lower-left corner
+  double shiftY;
+};
+
+// REQUIRES: checked geometry that has a size.
+Extents ExtentsOf(const BarhatchJob& job, const MarkedSymbol& symbol);
+
+// Writes x_dimension, symbol, total and narrowest.
+void DescribeExtents(const BarhatchJob& job, const MarkedSymbol& symbol, const Extents& extents,
+                     BarhatchResult& result);
+
+}  // namespace barhatch
+
+#endif

@@ -1,0 +1,282 @@
+#include "mark/JobRecord.h"
+
+#include <cstring>
+#include <limits>
+
+#include "mark/Names.h"
+
+namespace barhatch {
+
+namespace {
+
+constexpr std::int32_t kMostRows = 255;  // a request has one byte for each
+constexpr std::uint32_t kMatrixFlags = BARHATCH_FNC1_SECOND | BARHATCH_MAY_GROW;
+constexpr std::uint32_t kFlags =
+    kMatrixFlags | BARHATCH_QUIET_INSIDE | BARHATCH_PERMIT | BARHATCH_NO_PROOF;
+constexpr std::int32_t kEveryWant = 63;
+constexpr double kMostQuietModules = 1000.0;
+constexpr double kUsualRatio = 3.0;
+
+// Numbers that have no meaning yet: whoever sets one means something that this version cannot do.
+template <typename Number>
+struct ComingField {
+  Number BarhatchJob::*field;
+  const char* name;
+};
+
+constexpr ComingField<std::int32_t> kComingIntegers[] = {
+    {&BarhatchJob::check, "check"},     {&BarhatchJob::eci, "eci"},
+    {&BarhatchJob::shape, "shape"},     {&BarhatchJob::addon_gap, "addon_gap"},
+    {&BarhatchJob::profile, "profile"}, {&BarhatchJob::dots_per_module, "dots_per_module"},
+    {&BarhatchJob::order, "order"},
+};
+
+constexpr ComingField<double> kComingLengths[] = {
+    {&BarhatchJob::units_per_mm, "units_per_mm"},
+    {&BarhatchJob::beam_x, "beam_x"},
+    {&BarhatchJob::beam_y, "beam_y"},
+    {&BarhatchJob::growth_x, "growth_x"},
+    {&BarhatchJob::growth_y, "growth_y"},
+    {&BarhatchJob::dot, "dot"},
+    {&BarhatchJob::radius, "radius"},
+    {&BarhatchJob::tolerance, "tolerance"},
+};
+
+struct Length {
+  double BarhatchJob::*field;
+  const char* name;
+};
+
+// 0 where the host has none to give.
+constexpr Length kLengths[] = {
+    {&BarhatchJob::x_dimension, "x_dimension"},
+    {&BarhatchJob::width, "width"},
+    {&BarhatchJob::height, "height"},
+    {&BarhatchJob::ratio, "ratio"},
+    {&BarhatchJob::gap, "gap"},
+    {&BarhatchJob::mark_speed, "mark_speed"},
+    {&BarhatchJob::jump_speed, "jump_speed"},
+    {&BarhatchJob::stroke_delay, "stroke_delay"},
+    {&BarhatchJob::jump_delay, "jump_delay"},
+};
+
+bool IsFinite(double value) {
+  constexpr double kMost = std::numeric_limits<double>::max();
+  return value >= -kMost && value <= kMost;
+}
+
+bool IsZero(const std::uint8_t* bytes, std::size_t count) {
+  for (std::size_t i = 0; i < count; ++i) {
+    if (bytes[i] != 0) return false;
+  }
+  return true;
+}
+
+bool IsCode128(std::int32_t symbology) {
+  return symbology >= BARHATCH_CODE_128 && symbology <= BARHATCH_CODE_128_C;
+}
+
+bool IsPattern(std::int32_t pattern) {
+  return pattern >= BARHATCH_SCAN_LINES && pattern <= BARHATCH_POINTS && pattern != 4;
+}
+
+bool IsInput(std::int32_t input) {
+  return input == BARHATCH_UTF8 || input == BARHATCH_BYTES || input == BARHATCH_UNITS;
+}
+
+std::int32_t Refuse(std::int32_t status, const char* sentence, Message& message) {
+  message << sentence;
+  return status;
+}
+
+std::int32_t RefuseNumber(const char* name, std::int32_t number, const char* rest,
+                          Message& message) {
+  message << name << " " << number << rest;
+  return BARHATCH_BAD_OPTION;
+}
+
+std::int32_t CheckSymbology(const BarhatchJob& job, Message& message) {
+  const SymbologyName* const name = NameOf(job.symbology);
+  if (name == nullptr) {
+    return RefuseNumber("symbology", job.symbology, " is none: 0 to 22 and 100", message);
+  }
+  if (job.symbology > BARHATCH_DATA_MATRIX) {
+    message << name->name << " is not in this version";
+    return BARHATCH_BAD_OPTION;
+  }
+  if (job.conformance != BARHATCH_PUBLISHED && job.conformance != BARHATCH_DEVICE) {
+    return RefuseNumber("conformance", job.conformance, " is none: 0 and 1", message);
+  }
+  const bool isToCome = IsMatrix(job) || IsCode128(job.symbology);
+  if (job.conformance == BARHATCH_PUBLISHED && isToCome) {
+    message
+        << name->name
+        << " by the book is not in this version; conformance DEVICE writes it as the device does";
+    return BARHATCH_BAD_OPTION;
+  }
+  return BARHATCH_OK;
+}
+
+template <typename Number, std::size_t kCount>
+std::int32_t CheckComing(const BarhatchJob& job, const ComingField<Number> (&fields)[kCount],
+                         Message& message) {
+  for (const ComingField<Number>& field : fields) {
+    if (job.*field.field == Number{}) continue;
+    message << field.name << " is not in this version: it must be 0";
+    return BARHATCH_BAD_OPTION;
+  }
+  return BARHATCH_OK;
+}
+
+std::int32_t CheckMatrixOptions(const BarhatchJob& job, Message& message) {
+  const bool isInRange =
+      job.rows >= 0 && job.rows <= kMostRows && job.columns >= 0 && job.columns <= kMostRows;
+  if (!isInRange) return Refuse(BARHATCH_BAD_OPTION, "rows and columns are 0 to 255", message);
+  if (job.envelope != 0 && job.envelope != 5 && job.envelope != 6) {
+    return RefuseNumber("envelope", job.envelope, " is not in this version: 0, 5 and 6", message);
+  }
+  const bool hasFnc1 = (job.flags & BARHATCH_FNC1_SECOND) != 0;
+  if (!hasFnc1 || job.envelope == 0) return BARHATCH_OK;
+  return Refuse(BARHATCH_BAD_OPTION, "an envelope and FNC1_SECOND exclude each other", message);
+}
+
+std::int32_t CheckLinearOptions(const BarhatchJob& job, Message& message) {
+  const bool isOfMatrix =
+      job.rows != 0 || job.columns != 0 || job.envelope != 0 || (job.flags & kMatrixFlags) != 0;
+  if (!isOfMatrix) return BARHATCH_OK;
+  return Refuse(BARHATCH_BAD_OPTION,
+                "rows, columns, envelope, FNC1_SECOND and MAY_GROW are for Data Matrix", message);
+}
+
+std::int32_t CheckChoices(const BarhatchJob& job, Message& message) {
+  if (!IsInput(job.input)) {
+    return RefuseNumber("input", job.input, " is not in this version: 0, 1 and 4", message);
+  }
+  if ((job.flags & ~kFlags) != 0) {
+    return Refuse(BARHATCH_BAD_OPTION, "a flag is set that this version does not have", message);
+  }
+  if (job.want < 0 || job.want > kEveryWant) {
+    return RefuseNumber("want", job.want, " has bits that mean nothing", message);
+  }
+  if (Wants(job, BARHATCH_WANT_STROKES) && !IsPattern(job.pattern)) {
+    return RefuseNumber("pattern", job.pattern, " is none: 0 to 3, 5 and 6", message);
+  }
+  return BARHATCH_OK;
+}
+
+std::int32_t CheckPointers(const BarhatchJob& job, Message& message) {
+  if ((job.allocate == nullptr) != (job.release == nullptr)) {
+    return Refuse(BARHATCH_BAD_OPTION, "allocate and release go together", message);
+  }
+  if (job.reserved != nullptr) {
+    return Refuse(BARHATCH_BAD_OPTION, "reserved must be null", message);
+  }
+  if (job.text == nullptr && job.length != 0) {
+    return Refuse(BARHATCH_BAD_OPTION, "text is null, but length is not 0", message);
+  }
+  return BARHATCH_OK;
+}
+
+// One of the sizes says how wide a module is: a second one could only contradict it.
+std::int32_t CheckSizes(const BarhatchJob& job, Message& message) {
+  const int sizes = (job.x_dimension != 0.0 ? 1 : 0) + (job.width != 0.0 ? 1 : 0) +
+                    (IsMatrix(job) && job.height != 0.0 ? 1 : 0);
+  if (sizes != 1) {
+    return Refuse(BARHATCH_BAD_GEOMETRY,
+                  IsMatrix(job) ? "set one of x_dimension, width and height"
+                                : "set x_dimension or width, and not both",
+                  message);
+  }
+  if (!IsMatrix(job) && job.height == 0.0) {
+    return Refuse(BARHATCH_BAD_GEOMETRY, "height must be finite and above 0", message);
+  }
+  return BARHATCH_OK;
+}
+
+}  // namespace
+
+bool CopyRecord(const BarhatchJob* record, BarhatchJob& job, Message message) {
+  if (record == nullptr) {
+    message << "the job is null";
+    return false;
+  }
+  if (record->size < sizeof job) {
+    message << "the record is " << static_cast<std::int32_t>(record->size)
+            << " bytes, this library knows " << static_cast<std::int32_t>(sizeof job);
+    return false;
+  }
+  std::memcpy(&job, record, sizeof job);
+  const auto* const bytes = reinterpret_cast<const std::uint8_t*>(record);
+  if (IsZero(bytes + sizeof job, job.size - sizeof job)) return true;
+  message << "the record has bytes that this library does not know: its header is newer";
+  return false;
+}
+
+std::int32_t CheckOptions(const BarhatchJob& job, Message message) {
+  std::int32_t status = CheckSymbology(job, message);
+  if (status == BARHATCH_OK) status = CheckChoices(job, message);
+  if (status == BARHATCH_OK) {
+    status = IsMatrix(job) ? CheckMatrixOptions(job, message) : CheckLinearOptions(job, message);
+  }
+  if (status == BARHATCH_OK) status = CheckComing(job, kComingIntegers, message);
+  if (status == BARHATCH_OK) status = CheckComing(job, kComingLengths, message);
+  if (status == BARHATCH_OK) status = CheckPointers(job, message);
+  return status;
+}
+
+std::int32_t CheckGeometry(const BarhatchJob& job, Message message) {
+  for (const Length& length : kLengths) {
+    const double value = job.*length.field;
+    if (IsFinite(value) && value >= 0.0) continue;
+    message << length.name << " must be finite and not below 0";
+    return BARHATCH_BAD_GEOMETRY;
+  }
+  if (!(IsFinite(job.quiet) && job.quiet <= kMostQuietModules)) {
+    return Refuse(BARHATCH_BAD_GEOMETRY, "quiet must be at most 1000 modules", message);
+  }
+  if (Wants(job, BARHATCH_WANT_STROKES) && job.gap == 0.0 && job.pattern != BARHATCH_POINTS) {
+    return Refuse(BARHATCH_BAD_GEOMETRY, "gap must be finite and above 0", message);
+  }
+  return HasSize(job) ? CheckSizes(job, message) : BARHATCH_OK;
+}
+
+bool IsMatrix(const BarhatchJob& job) { return job.symbology == BARHATCH_DATA_MATRIX; }
+
+bool Wants(const BarhatchJob& job, BarhatchWant what) {
+  return job.want == 0 || (job.want & what) != 0;
+}
+
+bool HasSize(const BarhatchJob& job) {
+  return Wants(job, BARHATCH_WANT_STROKES) || job.x_dimension != 0.0 || job.width != 0.0 ||
+         job.height != 0.0;
+}
+
+DeviationSet InForce(const BarhatchJob& job) {
+  if (job.conformance == BARHATCH_DEVICE) return DeviationSet::All();
+  DeviationSet inForce;
+  if ((job.flags & BARHATCH_PERMIT) != 0) {
+    inForce.Add(Deviation::kDEAN_2);
+    inForce.Add(Deviation::kDEAN_3);
+  }
+  return inForce;
+}
+
+std::int32_t QuietModulesOf(const BarhatchJob& job) {
+  if (job.quiet < 0.0) return kNoQuietZone;
+  const auto whole = static_cast<std::int32_t>(job.quiet);
+  return whole < job.quiet ? whole + 1 : whole;
+}
+
+double RatioOf(const BarhatchJob& job) { return job.ratio != 0.0 ? job.ratio : kUsualRatio; }
+
+Header HeaderOf(const BarhatchJob& job) {
+  if (job.envelope == 5) return Header::kMacro05;
+  if (job.envelope == 6) return Header::kMacro06;
+  return (job.flags & BARHATCH_FNC1_SECOND) != 0 ? Header::kFnc1Second : Header::kNone;
+}
+
+bool DrawsQuietZone(const BarhatchJob& job) {
+  return (job.flags & BARHATCH_QUIET_INSIDE) != 0 || job.invert != 0;
+}
+
+}  // namespace barhatch

@@ -1,0 +1,35 @@
+// The record of a job on its way in: what it may hold, and what the library makes of its numbers.
+#ifndef BARHATCH_MARK_JOBRECORD_H
+#define BARHATCH_MARK_JOBRECORD_H
+
+#include "barhatch_mark.h"
+#include "job/Deviations.h"
+#include "job/Job.h"
+#include "mark/Message.h"
+
+namespace barhatch {
+
+// Copies the part of the record that this version knows. False, with a sentence, for null, a record
+// smaller than this version's and one with other bytes than zero behind it.
+bool CopyRecord(const BarhatchJob* record, BarhatchJob& job, Message message);
+
+// BARHATCH_OK, or the status of the first number that makes no sense, with a sentence.
+std::int32_t CheckOptions(const BarhatchJob& job, Message message);
+std::int32_t CheckGeometry(const BarhatchJob& job, Message message);
+
+// Of checked jobs.
+bool IsMatrix(const BarhatchJob& job);
+bool Wants(const BarhatchJob& job, BarhatchWant what);
+bool HasSize(const BarhatchJob& job);  // or wants strokes, which need one
+DeviationSet InForce(const BarhatchJob& job);
+std::int32_t QuietModulesOf(const BarhatchJob& job);
+double RatioOf(const BarhatchJob& job);
+Header HeaderOf(const BarhatchJob& job);
+
+// True where the quiet zone is a part of the drawn symbol: it lies inside the size, or it is
+// marked.
+bool DrawsQuietZone(const BarhatchJob& job);
+
+}  // namespace barhatch
+
+#endif

@@ -1,0 +1,115 @@
+// The three functions of the mark interface. Everything is said about a job in its result: status,
+// sentence, place; nothing is kept between calls.
+#include <cstdlib>
+#include <cstring>
+
+#include "barhatch_mark.h"
+#include "hatch/Hatch.h"
+#include "mark/JobRecord.h"
+#include "mark/MarkedSymbol.h"
+#include "mark/Names.h"
+#include "mark/ResultBlock.h"
+#include "mark/Sentences.h"
+
+namespace barhatch {
+
+namespace {
+
+Memory MemoryOf(const BarhatchJob& job) {
+  if (job.allocate != nullptr) return {job.allocate, job.release, job.context};
+  return {[](void*, std::size_t bytes) { return std::malloc(bytes); },
+          [](void*, void* block) { std::free(block); }, nullptr};
+}
+
+void ClearResult(BarhatchResult& result) {
+  const std::uint32_t size = result.size;
+  result = {};
+  result.size = size;
+}
+
+void SetPlace(const TextPlace& place, BarhatchResult& result) {
+  result.position = static_cast<std::int32_t>(place.begin + 1);
+  result.extent = static_cast<std::int32_t>(place.extent);
+}
+
+// Strokes a gap apart may miss an element that is narrower. Horizontal strokes of a linear symbol
+// go through all bars.
+bool MayMissElements(const BarhatchJob& job, const BarhatchResult& result) {
+  const bool isHorizontal =
+      job.pattern == BARHATCH_SCAN_LINES || job.pattern == BARHATCH_ALTERNATING_HORIZONTAL;
+  if (job.pattern == BARHATCH_POINTS || (isHorizontal && !IsMatrix(job))) return false;
+  return result.narrowest > 0.0 && job.gap > result.narrowest;
+}
+
+Refusal MakeSymbol(const BarhatchJob& job, const InputText& text, Conformance& how,
+                   MarkedSymbol& symbol, BarhatchResult& result) {
+  std::size_t units = 0;
+  TextPlace broken = {0, 0};
+  if (!text.CountUnits(units, broken)) {
+    SetPlace(broken, result);
+    return {Reason::kNoUtf8, -1, 0};
+  }
+  const Refusal refusal = IsMatrix(job) ? MakeMatrixSymbol(job, text, units, how, symbol, result)
+                                        : MakeLinearSymbol(job, text, units, how, symbol);
+  if (refusal.position >= 0) {
+    SetPlace(text.PlaceOf(static_cast<std::size_t>(refusal.position)), result);
+  }
+  return refusal;
+}
+
+Refusal MakeMark(const BarhatchJob& job, BarhatchResult& result) {
+  const Memory memory = MemoryOf(job);
+  const InputText text(job);
+  Conformance how(InForce(job));
+  MarkedSymbol symbol(memory);
+  Refusal refusal = MakeSymbol(job, text, how, symbol, result);
+  if (refusal.IsRefused()) return refusal;
+  refusal = FinishResult(job, symbol, how.Met(), result);
+  result.warnings = symbol.warnings;
+  if (Wants(job, BARHATCH_WANT_STROKES) && MayMissElements(job, result)) {
+    result.warnings |= BARHATCH_W_GAP;
+  }
+  return refusal;
+}
+
+std::int32_t MarkJob(const BarhatchJob* record, BarhatchResult& result) {
+  BarhatchJob job = {};
+  if (!CopyRecord(record, job, Message(result.message))) return BARHATCH_BAD_RECORD;
+  if (const SymbologyName* name = NameOf(job.symbology)) {
+    result.name = name->name;
+    result.accepts = name->accepts;
+  }
+  std::int32_t status = CheckOptions(job, Message(result.message));
+  if (status == BARHATCH_OK) status = CheckGeometry(job, Message(result.message));
+  if (status != BARHATCH_OK) return status;
+
+  const Refusal refusal = MakeMark(job, result);
+  if (refusal.IsRefused()) {
+    ReleaseBlock(result);
+    SayRefusal(job, refusal, result.position, Message(result.message));
+  } else {
+    SayWarning(result.warnings, Message(result.message));
+  }
+  return StatusOf(refusal.reason);
+}
+
+}  // namespace
+
+}  // namespace barhatch
+
+extern "C" {
+
+int32_t BarhatchMark(const BarhatchJob* job, BarhatchResult* result) {
+  if (result == nullptr || result->size < sizeof *result) return BARHATCH_BAD_RECORD;
+  barhatch::ClearResult(*result);
+  result->status = barhatch::MarkJob(job, *result);
+  return result->status;
+}
+
+void BarhatchRelease(BarhatchResult* result) {
+  if (result != nullptr) barhatch::ReleaseBlock(*result);
+}
+
+const char* BarhatchVersion(void) { return BARHATCH_VERSION; }
+
+}  // extern "C"

@@ -1,0 +1,65 @@
+#include "mark/MarkStrokes.h"
+
+#include "hatch/StrokeLengths.h"
+#include "mark/JobRecord.h"
+
+namespace barhatch {
+
+namespace {
+
+Filling FillingOf(const BarhatchJob& job) {
+  return {job.pattern, job.gap, job.invert != 0 ? FilledElements::kLight : FilledElements::kDark};
+}
+
+ElementRows RowsOf(const BarhatchJob& job, const MarkedSymbol& symbol, const Extents& extents) {
+  const FilledElements filled = FillingOf(job).filled;
+  if (IsMatrix(job)) {
+    return ElementRows({symbol.letters, symbol.rows, symbol.columns, extents.moduleSize}, filled,
+                       symbol.memory);
+  }
+  return ElementRows(symbol.letters, {extents.moduleSize, extents.wideSize, extents.barHeight},
+                     filled, symbol.memory);
+}
+
+}  // namespace
+
+MarkStrokes::MarkStrokes(const BarhatchJob& job, const MarkedSymbol& symbol, const Extents& extents)
+    : job_(job), extents_(extents), filling_(FillingOf(job)), rows_(RowsOf(job, symbol, extents)) {}
+
+Refusal MarkStrokes::Count(std::size_t& doubles) {
+  if (rows_.HasFailed()) return {Reason::kNoMemory, -1, 0};
+  const DoubleCount most = MostDoubles(rows_, filling_);
+  if (most == kUncountable) return {Reason::kTooManyStrokes, -1, 0};
+  doubles = static_cast<std::size_t>(most);
+  return {most > 0 ? Reason::kNone : Reason::kNothingToMark, -1, 0};
+}
+
+Refusal MarkStrokes::Write(double* room, std::size_t doubles, BarhatchResult& result) {
+  CoordinateList coordinates(room, doubles);
+  Fill(rows_, filling_, coordinates);
+  if (coordinates.Count() == 0) return {Reason::kNothingToMark, -1, 0};
+  if (extents_.shiftX != 0.0 || extents_.shiftY != 0.0) {
+    Translate(room, coordinates.Count(), extents_.shiftX, extents_.shiftY);
+  }
+  Describe(room, coordinates.Count(), result);
+  return {};
+}
+
+void MarkStrokes::Describe(const double* strokes, std::size_t doubles,
+                           BarhatchResult& result) const {
+  const FillingShape shape = ShapeOf(filling_);
+  const bool isPoints = shape == FillingShape::kPoints;
+  const StrokeLengths lengths = MeasureStrokes(strokes, doubles, shape);
+  result.kind = isPoints ? BARHATCH_DOTS : BARHATCH_SEGMENTS;
+  result.strokes = strokes;
+  result.strokes_count =
+      doubles / static_cast<std::size_t>(isPoints ? kDoublesPerPoint : kDoublesPerSegment);
+  result.mark_length = lengths.mark;
+  result.jump_length = lengths.jump;
+  if (job_.mark_speed == 0.0 || job_.jump_speed == 0.0) return;
+  result.seconds = lengths.mark / job_.mark_speed + lengths.jump / job_.jump_speed +
+                   static_cast<double>(result.strokes_count) * job_.stroke_delay +
+                   static_cast<double>(lengths.jumps) * job_.jump_delay;
+}
+
+}  // namespace barhatch

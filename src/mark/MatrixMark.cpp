@@ -1,0 +1,95 @@
+// The Data Matrix half of a mark: text to a grid of modules, its codewords read back.
+#include <cstring>
+
+#include "datamatrix/MatrixReading.h"
+#include "mark/JobRecord.h"
+#include "mark/Mark.h"
+#include "mark/MarkedSymbol.h"
+#include "mark/Reading.h"
+
+namespace barhatch {
+
+namespace {
+
+constexpr int kStandardQuietModules = 1;
+
+// Without a size of its own a job asks for the smallest, which has to be allowed to grow.
+SizeRequest SizeRequestOf(const BarhatchJob& job) {
+  const bool isSmallest = job.rows == 0 && job.columns == 0;
+  const bool mayGrow = isSmallest || (job.flags & BARHATCH_MAY_GROW) != 0;
+  return {job.rows, job.columns, mayGrow ? 1 : 0};
+}
+
+int QuietOf(const BarhatchJob& job) {
+  const std::int32_t modules = QuietModulesOf(job);
+  if (modules == kNoQuietZone) return 0;
+  return modules == kStandardQuietZone ? kStandardQuietModules : modules;
+}
+
+QuietSides OnAllSides(int modules) { return {modules, modules, modules, modules}; }
+
+// The device's text has no zeros: they end it.
+Refusal CheckUnits(const TextUnits& text, std::uint32_t& warnings) {
+  for (std::size_t i = 0; i < text.length; ++i) {
+    if (text.units[i] == 0) return {Reason::kCharacter, static_cast<std::int32_t>(i), 0};
+    if (text.units[i] > 255) warnings |= BARHATCH_W_ECI;
+  }
+  return {};
+}
+
+bool CopyCodewords(const MatrixSymbol& matrix, MarkedSymbol& symbol) {
+  const int count = matrix.size.dataCodewords + matrix.size.errorCodewords;
+  symbol.valuesCount = static_cast<std::size_t>(count);
+  symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(symbol.valuesCount));
+  if (symbol.values == nullptr) return false;
+  std::memcpy(symbol.values, matrix.codewords.data(), symbol.valuesCount);
+  return true;
+}
+
+Refusal ReadBack(const MatrixSymbol& matrix, const TextUnits& text, Header header,
+                 MarkedSymbol& symbol) {
+  const std::size_t room = MostBytesRead(matrix.size.dataCodewords) + 1;
+  symbol.reading = static_cast<char*>(symbol.memory.Allocate(room));
+  if (symbol.reading == nullptr || !CopyCodewords(matrix, symbol)) {
+    return {Reason::kNoMemory, -1, 0};
+  }
+  symbol.isRead = ReadCodewords(symbol.values, matrix.size.dataCodewords, symbol.reading, room - 1,
+                                symbol.readingLength);
+  symbol.reading[symbol.readingLength] = '\0';
+  const bool isAsGiven =
+      symbol.isRead && IsReadingOfMatrix(text, header, {symbol.reading, symbol.readingLength});
+  if (!isAsGiven) symbol.warnings |= BARHATCH_W_UNREADABLE;
+  return {};
+}
+
+}  // namespace
+
+Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::size_t units,
+                         Conformance& how, MarkedSymbol& symbol, BarhatchResult& result) {
+  if (units > kMaxDataMatrixText) return {Reason::kLength, -1, static_cast<std::int32_t>(units)};
+  const Block<char16_t> given(symbol.memory, units + 1);
+  if (given.get() == nullptr) return {Reason::kNoMemory, -1, 0};
+  text.CopyUnits(given.get(), units);
+  const TextUnits content = {given.get(), units};
+  const Refusal unit = CheckUnits(content, symbol.warnings);
+  if (unit.IsRefused()) return unit;
+
+  MatrixSymbol matrix;
+  const MatrixJob drawing = {content, DrawsQuietZone(job) ? QuietModulesOf(job) : kNoQuietZone,
+                             SizeRequestOf(job), HeaderOf(job)};
+  const Refusal refusal = EncodeDataMatrix(drawing, how, symbol.memory, matrix);
+  if (refusal.IsRefused()) return refusal;
+  symbol.letters = matrix.letters;
+  symbol.rows = matrix.rows;
+  symbol.columns = matrix.columns;
+  symbol.drawnQuiet = OnAllSides(matrix.quietModules);
+  symbol.quiet = OnAllSides(QuietOf(job));
+  if (symbol.quiet.left < kStandardQuietModules) {
+    symbol.warnings |= job.invert != 0 ? BARHATCH_W_INVERTED : BARHATCH_W_QUIET_ZONE;
+  }
+  result.codewords = matrix.codewords.Count();
+  result.capacity = matrix.size.dataCodewords;
+  return ReadBack(matrix, content, drawing.header, symbol);
+}
+
+}  // namespace barhatch

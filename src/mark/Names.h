@@ -1,0 +1,20 @@
+// What the symbologies are called, and which text each takes, in words for people.
+#ifndef BARHATCH_MARK_NAMES_H
+#define BARHATCH_MARK_NAMES_H
+
+#include <cstdint>
+
+namespace barhatch {
+
+struct SymbologyName {
+  std::int32_t symbology;  // BarhatchSymbology
+  const char* name;
+  const char* accepts;  // by the book
+};
+
+// Null for a number that names no symbology.
+const SymbologyName* NameOf(std::int32_t symbology);
+
+}  // namespace barhatch
+
+#endif

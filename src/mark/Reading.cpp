@@ -1,0 +1,113 @@
+#include "mark/Reading.h"
+
+#include <cstring>
+
+#include "barhatch_mark.h"
+
+namespace barhatch {
+
+namespace {
+
+constexpr char kGs = '\x1D';
+constexpr char kEnvelopeEnd[] = "\x1E\x04";
+constexpr std::size_t kEnvelopeHead = 7;  // [)> RS 05 GS
+
+struct EanUpcDigits {
+  std::int32_t symbology;
+  std::size_t main;  // digits of the text in front of the add-on's
+};
+
+constexpr EanUpcDigits kEanUpcDigits[] = {
+    {BARHATCH_EAN_13, 12},         {BARHATCH_UPC_A, 11},          {BARHATCH_UPC_E, 7},
+    {BARHATCH_EAN_8, 7},           {BARHATCH_UPC_A_ADDON_2, 11},  {BARHATCH_UPC_A_ADDON_5, 11},
+    {BARHATCH_EAN_13_ADDON_2, 12}, {BARHATCH_EAN_13_ADDON_5, 12}, {BARHATCH_EAN_8_ADDON_2, 7},
+    {BARHATCH_EAN_8_ADDON_5, 7},   {BARHATCH_UPC_E_ADDON_2, 7},   {BARHATCH_UPC_E_ADDON_5, 7},
+};
+
+// 0 for another symbology.
+std::size_t MainDigitsOf(std::int32_t symbology) {
+  for (const EanUpcDigits& row : kEanUpcDigits) {
+    if (row.symbology == symbology) return row.main;
+  }
+  return 0;
+}
+
+bool IsSame(const Characters& a, const char* text, std::size_t length) {
+  return a.length == length && std::memcmp(a.text, text, length) == 0;
+}
+
+bool IsReadingOfEanUpc(const Characters& text, std::size_t main, const Characters& reading) {
+  const std::size_t addOn = text.length - main;
+  const std::size_t expected = main + 1 + (addOn > 0 ? addOn + 1 : 0);
+  if (reading.length != expected || std::memcmp(reading.text, text.text, main) != 0) return false;
+  if (addOn == 0) return true;
+  return reading.text[main + 1] == ' ' &&
+         std::memcmp(reading.text + main + 2, text.text + main, addOn) == 0;
+}
+
+// Takes characters away from the front of a reading as they come.
+class Rest {
+ public:
+  explicit Rest(const Characters& reading) : rest_(reading) {}
+
+  bool Take(char character) {
+    if (rest_.length == 0 || *rest_.text != character) return false;
+    ++rest_.text;
+    --rest_.length;
+    return true;
+  }
+
+  bool IsEmpty() const { return rest_.length == 0; }
+
+ private:
+  Characters rest_;
+};
+
+bool TakeEnvelopeHead(Rest& rest, Header header) {
+  const char* const head = header == Header::kMacro05 ? "[)>\x1E"
+                                                        "05\x1D"
+                                                      : "[)>\x1E"
+                                                        "06\x1D";
+  for (std::size_t i = 0; i < kEnvelopeHead; ++i) {
+    if (!rest.Take(head[i])) return false;
+  }
+  return true;
+}
+
+bool TakeText(Rest& rest, const TextUnits& text, bool hasFnc1) {
+  bool mayHaveFnc1 = hasFnc1;
+  for (std::size_t i = 0; i < text.length; ++i) {
+    if (text.units[i] > 255) continue;
+    const char byte = static_cast<char>(text.units[i]);
+    // Behind the first letter or the first two digits.
+    if (mayHaveFnc1 && (i == 1 || i == 2) && byte != kGs && rest.Take(kGs)) mayHaveFnc1 = false;
+    if (!rest.Take(byte)) return false;
+  }
+  if (mayHaveFnc1 && !rest.IsEmpty()) rest.Take(kGs);
+  return true;
+}
+
+}  // namespace
+
+bool IsReadingOfLinear(std::int32_t symbology, const Characters& text, const Characters& reading) {
+  const std::size_t main = MainDigitsOf(symbology);
+  if (main > 0) return IsReadingOfEanUpc(text, main, reading);
+  if (symbology == BARHATCH_CODABAR) {
+    return text.length >= 2 && IsSame(reading, text.text + 1, text.length - 2);
+  }
+  const bool hasZero = symbology == BARHATCH_INTERLEAVED_2_OF_5 && text.length % 2 != 0;
+  if (!hasZero) return IsSame(reading, text.text, text.length);
+  return reading.length == text.length + 1 && reading.text[0] == '0' &&
+         std::memcmp(reading.text + 1, text.text, text.length) == 0;
+}
+
+bool IsReadingOfMatrix(const TextUnits& text, Header header, const Characters& reading) {
+  const bool hasEnvelope = header == Header::kMacro05 || header == Header::kMacro06;
+  Rest rest(reading);
+  if (hasEnvelope && !TakeEnvelopeHead(rest, header)) return false;
+  if (!TakeText(rest, text, header == Header::kFnc1Second)) return false;
+  if (hasEnvelope && !(rest.Take(kEnvelopeEnd[0]) && rest.Take(kEnvelopeEnd[1]))) return false;
+  return rest.IsEmpty();
+}
+
+}  // namespace barhatch

@@ -1,0 +1,215 @@
+#include "mark/Sentences.h"
+
+#include "datamatrix/DataMatrix.h"
+#include "mark/Names.h"
+#include "symbologies/SymbologyTable.h"
+
+namespace barhatch {
+
+namespace {
+
+struct ReasonStatus {
+  Reason reason;
+  std::int32_t status;
+};
+
+constexpr ReasonStatus kStatuses[] = {
+    {Reason::kNone, BARHATCH_OK},
+    {Reason::kOption, BARHATCH_BAD_OPTION},
+    {Reason::kEmpty, BARHATCH_EMPTY},
+    {Reason::kNoUtf8, BARHATCH_BAD_CHARACTER},
+    {Reason::kCharacter, BARHATCH_BAD_CHARACTER},
+    {Reason::kLength, BARHATCH_BAD_LENGTH},
+    {Reason::kNoStart, BARHATCH_BAD_SYNTAX},
+    {Reason::kNoStop, BARHATCH_BAD_SYNTAX},
+    {Reason::kNotStandard, BARHATCH_NOT_STANDARD},
+    {Reason::kTooManyCodewords, BARHATCH_TOO_LONG},
+    {Reason::kSizeTooSmall, BARHATCH_TOO_LONG},
+    {Reason::kNoSuchSize, BARHATCH_NO_SUCH_SIZE},
+    {Reason::kNoPermissionToGrow, BARHATCH_TOO_LONG},
+    {Reason::kGeometry, BARHATCH_BAD_GEOMETRY},
+    {Reason::kNothingToMark, BARHATCH_NOTHING_TO_MARK},
+    {Reason::kTooManyStrokes, BARHATCH_BAD_GEOMETRY},
+    {Reason::kNoMemory, BARHATCH_NO_MEMORY},
+};
+
+constexpr bool RowsAreInTheOrderOfReasons() {
+  int reason = 0;
+  for (const ReasonStatus& row : kStatuses) {
+    if (static_cast<int>(row.reason) != reason++) return false;
+  }
+  return reason == static_cast<int>(Reason::kNoMemory) + 1;
+}
+static_assert(RowsAreInTheOrderOfReasons(), "the reason is the index of its row");
+
+struct WarningSentence {
+  std::uint32_t bit;
+  const char* sentence;
+};
+
+constexpr WarningSentence kWarnings[] = {
+    {BARHATCH_W_LEADING_ZERO, "a 0 was added in front: Interleaved 2 of 5 writes pairs of digits"},
+    {BARHATCH_W_FEW_DIGITS,
+     "fewer than 6 digits of Interleaved 2 of 5: readers may not accept them"},
+    {BARHATCH_W_ECI, "a character above 255 is no data here: it designates an ECI"},
+    {BARHATCH_W_QUIET_ZONE, "the quiet zone is smaller than the standard's"},
+    {BARHATCH_W_INVERTED, "the light elements are marked, but no quiet zone around them"},
+    {BARHATCH_W_LOW_BYTE, "of a character above 255 the device writes the low byte alone"},
+    {BARHATCH_W_UNREADABLE, "a standard reader reads something else than the text, or nothing"},
+    {BARHATCH_W_GAP, "the gap is wider than the narrowest element: it may get no stroke"},
+};
+
+template <typename Wanted>
+const SymbolSize* FirstSize(const Wanted& isWanted) {
+  for (const SymbolSize& size : kSquareSizes) {
+    if (isWanted(size)) return &size;
+  }
+  for (const SymbolSize& size : kRectangularSizes) {
+    if (isWanted(size)) return &size;
+  }
+  return nullptr;
+}
+
+const SymbolSize* SizeOf(const BarhatchJob& job) {
+  return FirstSize([&](const SymbolSize& size) {
+    return size.symbolRows == job.rows && size.symbolColumns == job.columns;
+  });
+}
+
+// Of the same family: squares are asked for by squares.
+const SymbolSize* NextSize(const BarhatchJob& job) {
+  const bool isSquare = job.rows == job.columns;
+  return FirstSize([&](const SymbolSize& size) {
+    return (size.symbolRows == size.symbolColumns) == isSquare && size.symbolRows >= job.rows &&
+           size.symbolColumns >= job.columns;
+  });
+}
+
+void SayLength(const BarhatchJob& job, const SymbologyName& name, std::int32_t given,
+               Message& message) {
+  const std::int32_t longest = job.symbology == BARHATCH_DATA_MATRIX
+                                   ? static_cast<std::int32_t>(kMaxDataMatrixText)
+                                   : kSymbologies[job.symbology].text.longest;
+  message << name.name << " takes ";
+  if (given > longest && longest > 17) {
+    message << "at most " << longest << " characters, " << given << " given";
+  } else {
+    message << name.accepts << ", " << given << " given";
+  }
+}
+
+void SayNotStandard(const BarhatchJob& job, std::int32_t place, Message& message) {
+  const bool isEan8 =
+      job.symbology == BARHATCH_EAN_8_ADDON_2 || job.symbology == BARHATCH_EAN_8_ADDON_5;
+  if (isEan8) {
+    message << "an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT";
+  } else if (place == 1) {
+    message << "UPC-E of number system 1 is outside ISO/IEC 15420; set PERMIT";
+  } else {
+    message << "the six digits at " << place << " are no UPC-A number without its zeros";
+  }
+}
+
+Message& SaySize(int rows, int columns, Message& message) {
+  return message << rows << "x" << columns;
+}
+
+void SayTooSmall(const BarhatchJob& job, const Refusal& refusal, Message& message) {
+  const SymbolSize* const size = SizeOf(job);
+  message << refusal.figure << " codewords, ";
+  if (size == nullptr) {
+    message << "no size of the request holds them";
+  } else if (size->dataCodewords < refusal.figure) {
+    SaySize(job.rows, job.columns, message) << " holds " << size->dataCodewords;
+  } else {
+    message << "the first rectangle that holds them does not lie within ";
+    SaySize(job.rows, job.columns, message);
+  }
+  if (refusal.reason == Reason::kNoPermissionToGrow) message << "; MAY_GROW allows a larger one";
+}
+
+void SayNoSuchSize(const BarhatchJob& job, Message& message) {
+  SaySize(job.rows, job.columns, message) << " is no size";
+  const SymbolSize* const next = NextSize(job);
+  if (next == nullptr) return;
+  message << "; ";
+  SaySize(next->symbolRows, next->symbolColumns, message) << " is the next";
+}
+
+void SayCharacter(const SymbologyName& name, const Refusal& refusal, std::int32_t place,
+                  Message& message) {
+  message << "character " << place << " (";
+  message.Code(refusal.figure) << ") is not in " << name.name << ": " << name.accepts;
+}
+
+void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
+                    Message& message) {
+  const SymbologyName& name = *NameOf(job.symbology);
+  switch (refusal.reason) {
+    case Reason::kEmpty:
+      message << name.name << " needs at least one character";
+      break;
+    case Reason::kNoUtf8:
+      message << "byte " << place << " is not UTF-8";
+      break;
+    case Reason::kCharacter:
+      SayCharacter(name, refusal, place, message);
+      break;
+    case Reason::kLength:
+      SayLength(job, name, refusal.figure, message);
+      break;
+    case Reason::kNoStart:
+      message << "start character missing at " << place;
+      break;
+    case Reason::kNoStop:
+      message << "stop character missing at " << place;
+      break;
+    default:
+      SayNotStandard(job, place, message);
+      break;
+  }
+}
+
+}  // namespace
+
+std::int32_t StatusOf(Reason reason) { return kStatuses[static_cast<int>(reason)].status; }
+
+void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
+                Message message) {
+  switch (refusal.reason) {
+    case Reason::kTooManyCodewords:
+      message << "the text takes more than the " << kMaxDataCodewords
+              << " codewords of the largest size";
+      break;
+    case Reason::kSizeTooSmall:
+    case Reason::kNoPermissionToGrow:
+      SayTooSmall(job, refusal, message);
+      break;
+    case Reason::kNoSuchSize:
+      SayNoSuchSize(job, message);
+      break;
+    case Reason::kNothingToMark:
+      message << "no stroke lies in any element at this size and gap";
+      break;
+    case Reason::kTooManyStrokes:
+      message << "the gap asks for more strokes than a mark can have";
+      break;
+    case Reason::kNoMemory:
+      message << "no memory";
+      break;
+    default:
+      SayTextRefusal(job, refusal, place, message);
+      break;
+  }
+}
+
+void SayWarning(std::uint32_t warnings, Message message) {
+  for (const WarningSentence& row : kWarnings) {
+    if ((warnings & row.bit) != 0) {
+      message << row.sentence;
+      return;
+    }
+  }
+}
+
+}  // namespace barhatch
