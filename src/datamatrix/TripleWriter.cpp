@@ -65,8 +65,8 @@ void TripleWriter::Queue(int value) {
   queue_[queued_++] = value;
   if (queued_ < 3) return;
   const int packed = 1600 * queue_[0] + 40 * queue_[1] + queue_[2] + 1;
-  state_.codewords.Append(packed / 256);
-  state_.codewords.Append(packed % 256);
+  state_.codewords.Append(packed >> 8);
+  state_.codewords.Append(packed & 0xFF);
   queued_ = 0;
 }
 

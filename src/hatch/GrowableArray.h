@@ -55,9 +55,7 @@ class GrowableArray {
   // The next `items` elements, already counted, for the caller to write; null when there is no
   // memory.
   T* RoomFor(std::size_t items) {
-    while (capacity_ - count_ < items) {
-      if (!Grow()) return nullptr;
-    }
+    if (capacity_ - count_ < items && !GrowFor(items)) return nullptr;
     T* room = items_ + count_;
     count_ += items;
     return room;
@@ -87,6 +85,13 @@ class GrowableArray {
 
   void ReleaseArray() {
     if (memory_ != nullptr) memory_->Release(items_);
+  }
+
+  bool GrowFor(std::size_t items) {
+    while (capacity_ - count_ < items) {
+      if (!Grow()) return false;
+    }
+    return true;
   }
 
   bool Grow() {
