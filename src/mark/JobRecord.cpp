@@ -267,6 +267,11 @@ std::int32_t QuietModulesOf(const BarhatchJob& job) {
   return whole < job.quiet ? whole + 1 : whole;
 }
 
+std::uint32_t SmallQuietZoneWarning(const BarhatchJob& job) {
+  const bool isNone = job.quiet < 0.0;
+  return job.invert != 0 && isNone ? BARHATCH_W_INVERTED : BARHATCH_W_QUIET_ZONE;
+}
+
 double RatioOf(const BarhatchJob& job) { return job.ratio != 0.0 ? job.ratio : kUsualRatio; }
 
 Header HeaderOf(const BarhatchJob& job) {

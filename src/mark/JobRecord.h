@@ -26,6 +26,9 @@ std::int32_t QuietModulesOf(const BarhatchJob& job);
 double RatioOf(const BarhatchJob& job);
 Header HeaderOf(const BarhatchJob& job);
 
+// What to warn of where the quiet zone is smaller than the standard's.
+std::uint32_t SmallQuietZoneWarning(const BarhatchJob& job);
+
 // True where the quiet zone is a part of the drawn symbol: it lies inside the size, or it is
 // marked.
 bool DrawsQuietZone(const BarhatchJob& job);

@@ -98,7 +98,7 @@ Refusal MakeLinearSymbol(const BarhatchJob& job, const InputText& text, std::siz
   if (job.symbology == BARHATCH_INTERLEAVED_2_OF_5) WarnOfDigits(length, symbol.warnings);
   const QuietSides standard = StandardQuiet(job);
   if (symbol.quiet.left < standard.left || symbol.quiet.right < standard.right) {
-    symbol.warnings |= job.invert != 0 ? BARHATCH_W_INVERTED : BARHATCH_W_QUIET_ZONE;
+    symbol.warnings |= SmallQuietZoneWarning(job);
   }
   return ReadBack(job, drawn, {bytes.get(), length}, symbol);
 }

@@ -85,7 +85,7 @@ Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::siz
   symbol.drawnQuiet = OnAllSides(matrix.quietModules);
   symbol.quiet = OnAllSides(QuietOf(job));
   if (symbol.quiet.left < kStandardQuietModules) {
-    symbol.warnings |= job.invert != 0 ? BARHATCH_W_INVERTED : BARHATCH_W_QUIET_ZONE;
+    symbol.warnings |= SmallQuietZoneWarning(job);
   }
   result.codewords = matrix.codewords.Count();
   result.capacity = matrix.size.dataCodewords;
