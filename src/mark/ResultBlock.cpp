@@ -20,9 +20,9 @@ struct BlockHead {
 constexpr std::size_t kHeadBytes = 16;
 static_assert(sizeof(BlockHead) <= kHeadBytes && kHeadBytes % alignof(double) == 0, "");
 
-// Bytes of each part; 0 for what the job does not want.
+// Bytes of each part, of the strokes doubles; 0 for what the job does not want.
 struct BlockParts {
-  std::size_t strokes = 0;
+  std::size_t doubles = 0;
   std::size_t modules = 0;
   std::size_t values = 0;
   std::size_t reading = 0;
@@ -32,8 +32,8 @@ struct BlockParts {
   bool Sum(std::size_t& bytes) const {
     bytes = kHeadBytes + modules + values + reading + deviations;
     const std::size_t most = static_cast<std::size_t>(PTRDIFF_MAX) - bytes;
-    if (strokes > most) return false;
-    bytes += strokes;
+    if (doubles > most / sizeof(double)) return false;
+    bytes += doubles * sizeof(double);
     return true;
   }
 };
@@ -113,11 +113,9 @@ void WriteParts(const BlockParts& parts, const BarhatchJob& job, const MarkedSym
 Refusal FinishBlock(const BarhatchJob& job, const MarkedSymbol& symbol, DeviationSet met,
                     MarkStrokes* strokes, BarhatchResult& result) {
   BlockParts parts = PartsOf(job, symbol, met);
-  std::size_t doubles = 0;
   if (strokes != nullptr) {
-    const Refusal refusal = strokes->Count(doubles);
+    const Refusal refusal = strokes->Count(parts.doubles);
     if (refusal.IsRefused()) return refusal;
-    parts.strokes = doubles * sizeof(double);
   }
   std::size_t bytes = 0;
   void* const block = parts.Sum(bytes) ? symbol.memory.Allocate(bytes) : nullptr;
@@ -127,9 +125,9 @@ Refusal FinishBlock(const BarhatchJob& job, const MarkedSymbol& symbol, Deviatio
   result.block = block;
 
   BlockWriter writer(block, kHeadBytes);
-  auto* const room = reinterpret_cast<double*>(writer.Take(parts.strokes));
+  auto* const room = reinterpret_cast<double*>(writer.Take(parts.doubles * sizeof(double)));
   WriteParts(parts, job, symbol, met, writer, result);
-  return strokes != nullptr ? strokes->Write(room, doubles, result) : Refusal{};
+  return strokes != nullptr ? strokes->Write(room, parts.doubles, result) : Refusal{};
 }
 
 }  // namespace
