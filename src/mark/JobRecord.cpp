@@ -9,7 +9,8 @@ namespace barhatch {
 
 namespace {
 
-constexpr std::int32_t kMostRows = 255;  // a request has one byte for each
+constexpr std::uint32_t kMostRecordBytes = 65536;  // whatever comes: more is no size, but garbage
+constexpr std::int32_t kMostRows = 255;            // a request has one byte for each
 constexpr std::uint32_t kMatrixFlags = BARHATCH_FNC1_SECOND | BARHATCH_MAY_GROW;
 constexpr std::uint32_t kFlags =
     kMatrixFlags | BARHATCH_QUIET_INSIDE | BARHATCH_PERMIT | BARHATCH_NO_PROOF;
@@ -205,6 +206,10 @@ bool CopyRecord(const BarhatchJob* record, BarhatchJob& job, Message message) {
             << " bytes, this library knows " << static_cast<std::int32_t>(sizeof job);
     return false;
   }
+  if (record->size > kMostRecordBytes) {
+    message << "the size of the record is not set";
+    return false;
+  }
   std::memcpy(&job, record, sizeof job);
   const auto* const bytes = reinterpret_cast<const std::uint8_t*>(record);
   if (IsZero(bytes + sizeof job, job.size - sizeof job)) return true;
@@ -232,7 +237,7 @@ std::int32_t CheckGeometry(const BarhatchJob& job, Message message) {
     return BARHATCH_BAD_GEOMETRY;
   }
   if (!(IsFinite(job.quiet) && job.quiet <= kMostQuietModules)) {
-    return Refuse(BARHATCH_BAD_GEOMETRY, "quiet must be at most 1000 modules", message);
+    return Refuse(BARHATCH_BAD_GEOMETRY, "quiet must be finite and at most 1000 modules", message);
   }
   if (Wants(job, BARHATCH_WANT_STROKES) && job.gap == 0.0 && job.pattern != BARHATCH_POINTS) {
     return Refuse(BARHATCH_BAD_GEOMETRY, "gap must be finite and above 0", message);

@@ -10,7 +10,8 @@
 namespace barhatch {
 
 // Copies the part of the record that this version knows. False, with a sentence, for null, a record
-// smaller than this version's and one with other bytes than zero behind it.
+// smaller than this version's, one with other bytes than zero behind it and a size that is no
+// record's.
 bool CopyRecord(const BarhatchJob* record, BarhatchJob& job, Message message);
 
 // BARHATCH_OK, or the status of the first number that makes no sense, with a sentence.
