@@ -27,8 +27,8 @@
  *
  * conformance says by what rules a mark is made. BARHATCH_PUBLISHED writes what the published standard of a symbology says
  * and refuses the rest. BARHATCH_DEVICE writes what the exports of barhatch.h write, every known deviation included; the
- * result names the deviations that a mark has met. This version makes published marks of all linear symbologies but
- * Code 128, and device marks of all 23 types and Data Matrix.
+ * result names the deviations that a mark has met. This version makes published marks of all linear symbologies, and
+ * device marks of all 23 types and Data Matrix.
  *
  * The records grow at their end in later versions: fields are never moved, numbers never used again. A record smaller than
  * the first version's is refused, of a larger one the bytes that this version does not know must be zero.
@@ -55,7 +55,7 @@ enum BarhatchSymbology {
   BARHATCH_CODE_93 = 2,            /* the same characters */
   BARHATCH_EAN_13 = 3,             /* 12 digits; the check digit is added */
   BARHATCH_MSI = 4,                /* digits; one check digit, modulo 10, is added */
-  BARHATCH_CODE_128 = 5,           /* the code sets are chosen */
+  BARHATCH_CODE_128 = 5,           /* bytes; the code sets are chosen, by the book as short as can be */
   BARHATCH_CODE_128_A = 6,         /* begins in set A */
   BARHATCH_CODE_128_B = 7,         /* begins in set B */
   BARHATCH_CODE_128_C = 8,         /* begins in set C */

@@ -16,6 +16,7 @@ enum class Reason : std::uint8_t {
   kNoStart,             // position: where a start character should stand
   kNoStop,              // position: where a stop character should stand
   kNotStandard,         // a symbol that the standard leaves out
+  kTooManyValues,       // of a linear symbol; figure: those of the text
   kTooManyCodewords,    // figure: the codewords of the text, as far as they were counted
   kSizeTooSmall,        // figure: the codewords of the text
   kNoSuchSize,          // figure: the codewords of the text

@@ -73,10 +73,6 @@ bool IsZero(const std::uint8_t* bytes, std::size_t count) {
   return true;
 }
 
-bool IsCode128(std::int32_t symbology) {
-  return symbology >= BARHATCH_CODE_128 && symbology <= BARHATCH_CODE_128_C;
-}
-
 bool IsPattern(std::int32_t pattern) {
   return pattern >= BARHATCH_SCAN_LINES && pattern <= BARHATCH_POINTS && pattern != 4;
 }
@@ -108,8 +104,7 @@ std::int32_t CheckSymbology(const BarhatchJob& job, Message& message) {
   if (job.conformance != BARHATCH_PUBLISHED && job.conformance != BARHATCH_DEVICE) {
     return RefuseNumber("conformance", job.conformance, " is none: 0 and 1", message);
   }
-  const bool isToCome = IsMatrix(job) || IsCode128(job.symbology);
-  if (job.conformance == BARHATCH_PUBLISHED && isToCome) {
+  if (job.conformance == BARHATCH_PUBLISHED && IsMatrix(job)) {
     message
         << name->name
         << " by the book is not in this version; conformance DEVICE writes it as the device does";

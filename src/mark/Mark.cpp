@@ -25,7 +25,7 @@ Refusal DrawLinear(const LinearJob& job, std::size_t usualCapacity, const Memory
   SymbolWriter out(memory, usualCapacity, quiet);
   row.encode({job.text, length}, row.variant, how, out);
   symbol = {out.Release(), out.Length(), quiet.left, quiet.right};
-  return {symbol.letters != nullptr ? Reason::kNone : Reason::kNoMemory, -1, 0};
+  return symbol.letters != nullptr ? Refusal{} : out.WhyNone();
 }
 
 }  // namespace barhatch

@@ -77,7 +77,7 @@ std::int32_t MarkJob(const BarhatchJob* record, BarhatchResult& result) {
   if (!CopyRecord(record, job, Message(result.message))) return BARHATCH_BAD_RECORD;
   if (const SymbologyName* name = NameOf(job.symbology)) {
     result.name = name->name;
-    result.accepts = name->accepts;
+    result.accepts = AcceptedBy(*name, job.conformance);
   }
   std::int32_t status = CheckOptions(job, Message(result.message));
   if (status == BARHATCH_OK) status = CheckGeometry(job, Message(result.message));

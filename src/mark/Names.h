@@ -9,11 +9,15 @@ namespace barhatch {
 struct SymbologyName {
   std::int32_t symbology;  // BarhatchSymbology
   const char* name;
-  const char* accepts;  // by the book
+  const char* accepts;
+  const char* deviceAccepts;  // where that is less; else null
 };
 
 // Null for a number that names no symbology.
 const SymbologyName* NameOf(std::int32_t symbology);
+
+// What it accepts under a BarhatchConformance.
+const char* AcceptedBy(const SymbologyName& name, std::int32_t conformance);
 
 }  // namespace barhatch
 

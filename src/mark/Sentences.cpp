@@ -2,6 +2,7 @@
 
 #include "datamatrix/DataMatrix.h"
 #include "mark/Names.h"
+#include "symbologies/Code128Shortest.h"
 #include "symbologies/SymbologyTable.h"
 
 namespace barhatch {
@@ -23,6 +24,7 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kNoStart, BARHATCH_BAD_SYNTAX},
     {Reason::kNoStop, BARHATCH_BAD_SYNTAX},
     {Reason::kNotStandard, BARHATCH_NOT_STANDARD},
+    {Reason::kTooManyValues, BARHATCH_TOO_LONG},
     {Reason::kTooManyCodewords, BARHATCH_TOO_LONG},
     {Reason::kSizeTooSmall, BARHATCH_TOO_LONG},
     {Reason::kNoSuchSize, BARHATCH_NO_SUCH_SIZE},
@@ -136,10 +138,12 @@ void SayNoSuchSize(const BarhatchJob& job, Message& message) {
   SaySize(next->symbolRows, next->symbolColumns, message) << " is the next";
 }
 
-void SayCharacter(const SymbologyName& name, const Refusal& refusal, std::int32_t place,
+void SayCharacter(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
                   Message& message) {
+  const SymbologyName& name = *NameOf(job.symbology);
   message << "character " << place << " (";
-  message.Code(refusal.figure) << ") is not in " << name.name << ": " << name.accepts;
+  message.Code(refusal.figure) << ") is not in " << name.name << ": "
+                               << AcceptedBy(name, job.conformance);
 }
 
 void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
@@ -153,7 +157,7 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
       message << "byte " << place << " is not UTF-8";
       break;
     case Reason::kCharacter:
-      SayCharacter(name, refusal, place, message);
+      SayCharacter(job, refusal, place, message);
       break;
     case Reason::kLength:
       SayLength(job, name, refusal.figure, message);
@@ -177,6 +181,9 @@ std::int32_t StatusOf(Reason reason) { return kStatuses[static_cast<int>(reason)
 void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
                 Message message) {
   switch (refusal.reason) {
+    case Reason::kTooManyValues:
+      message << refusal.figure << " symbol characters, at most " << kMostShortestValues;
+      break;
     case Reason::kTooManyCodewords:
       message << "the text takes more than the " << kMaxDataCodewords
               << " codewords of the largest size";

@@ -4,12 +4,17 @@
 
 #include "job/CharacterClasses.h"
 #include "symbologies/Code128Patterns.h"
+#include "symbologies/Code128Shortest.h"
 
 namespace barhatch {
 
 namespace {
 
 enum class CodeSet { kA, kB, kC };
+
+// By the book, indexed by policy.
+constexpr Code128Start kStarts[] = {Code128Start::kFree, Code128Start::kA, Code128Start::kB,
+                                    Code128Start::kPair};
 
 constexpr char kFirstCharacter = ' ';
 constexpr int kShortestRunForSetC = 4;
@@ -160,6 +165,9 @@ void BuildCode128Values(const Characters& text, Code128Policy policy, Conformanc
 }
 
 void EncodeCode128(const Characters& text, int variant, Conformance& how, SymbolWriter& out) {
+  if (!how.IsInForce(Deviation::kD128_3)) {
+    return DrawShortestCode128(text, kStarts[variant], out);
+  }
   Code128Values symbol;
   BuildCode128Values(text, static_cast<Code128Policy>(variant), how, symbol);
   out.Open(kMostCode128Letters);

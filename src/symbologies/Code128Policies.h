@@ -59,7 +59,9 @@ void BuildCode128Values(const Characters& text, Code128Policy policy, Conformanc
 constexpr std::size_t kMostCode128Letters =
     kCode128CharacterModules * (kMaxCode128Values + 1) + kCode128TerminationBarModules;
 
-// REQUIRES: text as above. variant: a Code128Policy. 11 letters for each value and 13 for the stop.
+// variant: a Code128Policy, which the device follows; by the book the symbol is the shortest one
+// (Code128Shortest.h) that starts as the policy says. 11 letters for each value and 13 for the
+// stop. REQUIRES: text that the rule of the type accepts.
 void EncodeCode128(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
 
 }  // namespace barhatch

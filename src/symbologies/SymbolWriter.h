@@ -8,6 +8,7 @@
 
 #include "job/Memory.h"
 #include "job/ModuleString.h"
+#include "job/Refusal.h"
 #include "symbologies/LetterTables.h"
 
 namespace barhatch {
@@ -80,6 +81,17 @@ class SymbolWriter {
   // Letters of the string without the NUL; keeps its value after Release.
   std::size_t Length() const { return length_; }
 
+  // For an encoder that needs room to think.
+  const Memory& GetMemory() const { return memory_; }
+
+  // Instead of Open, where only drawing shows that a symbol exceeds its limit.
+  void Refuse(const Refusal& refusal) { refusal_ = refusal; }
+
+  // Why Release gives null: that, or no memory.
+  Refusal WhyNone() const {
+    return refusal_.IsRefused() ? refusal_ : Refusal{Reason::kNoMemory, -1, 0};
+  }
+
  private:
   const Memory& memory_;
   const std::size_t usualCapacity_;
@@ -87,6 +99,7 @@ class SymbolWriter {
   std::size_t capacity_ = 0;
   std::size_t length_ = 0;
   bool overflowed_ = false;
+  Refusal refusal_;
   char* letters_ = nullptr;
 };
 

@@ -22,8 +22,9 @@ constexpr std::uint16_t kCode39Set = kClassDigits | kClassLettersAndSigns;
 constexpr std::uint16_t kCodabarSet = kClassDigits | kClassCodabarSigns | kClassCodabarEnds;
 
 constexpr TextRule Rule(std::uint16_t accepted, std::uint16_t longest, Deviation emptyBy) {
-  return {accepted,     1,      longest, emptyBy, kNoClass, kNoDeviation, kNoDeviation,
-          kNoDeviation, nullptr};
+  return {accepted, 1,        longest,      kNoClass,     kNoDeviation,
+          emptyBy,  kNoClass, kNoDeviation, kNoDeviation, kNoDeviation,
+          nullptr};
 }
 
 constexpr TextRule WithMore(TextRule rule, std::uint16_t more, Deviation by, Deviation inFrontBy) {
@@ -51,7 +52,16 @@ constexpr TextRule Digits(EanUpcSymbol symbol) {
   return rule;
 }
 
-constexpr TextRule kCode128Text = Rule(kClassFromSpace, kLongestLinearText, kNoDeviation);
+// The device's choice of code sets has neither FNC4 nor shift; set B alone has no control
+// characters by the book either.
+constexpr TextRule Code128Text(Code128Policy policy) {
+  const bool isSetB = policy == Code128Policy::kB;
+  TextRule rule = Rule(isSetB ? kClassFromSpace : kClassAscii | kClassAbove127, kLongestLinearText,
+                       kNoDeviation);
+  rule.planned = kClassFromSpace;
+  rule.plannedBy = Deviation::kD128_3;
+  return rule;
+}
 
 constexpr std::uint8_t Variant(Code128Policy policy) { return static_cast<std::uint8_t>(policy); }
 constexpr std::uint8_t Variant(EanUpcSymbol symbol) { return static_cast<std::uint8_t>(symbol); }
@@ -70,7 +80,7 @@ constexpr SymbologyRow UpcE(EanUpcSymbol symbol) {
 }
 
 constexpr SymbologyRow Code128(Code128Policy policy) {
-  return {kCode128Text, EncodeCode128, Variant(policy), 10, 10};
+  return {Code128Text(policy), EncodeCode128, Variant(policy), 10, 10};
 }
 
 }  // namespace

@@ -54,17 +54,17 @@ Refusal RefusedCharacter(const char* text, std::size_t position) {
           static_cast<unsigned char>(text[position])};
 }
 
-// The characters from the first one on that the published symbology lacks.
-Refusal CheckMore(const TextRule& rule, const char* text, std::size_t outside, std::size_t length,
-                  Conformance& how) {
+// The characters from the first one on that are in none of the accepted classes.
+Refusal CheckMore(const TextRule& rule, std::uint16_t accepted, const char* text,
+                  std::size_t outside, std::size_t length, Conformance& how) {
   bool isInFront = outside == 0;
-  for (; outside < length; outside = FirstOutside(rule.accepted, text, outside, length)) {
+  for (; outside < length; outside = FirstOutside(accepted, text, outside, length)) {
     const Deviation by = isInFront ? rule.moreInFrontBy : rule.moreBy;
     if ((ClassesOf(text[outside]) & rule.more) == 0 || !how.Deviates(by)) {
       return RefusedCharacter(text, outside);
     }
     ++outside;
-    isInFront = isInFront && outside < length && (ClassesOf(text[outside]) & rule.accepted) == 0;
+    isInFront = isInFront && outside < length && (ClassesOf(text[outside]) & accepted) == 0;
   }
   return {};
 }
@@ -93,9 +93,10 @@ std::uint16_t ClassesOf(char character) {
 }
 
 Refusal CheckText(const TextRule& rule, char* text, std::size_t& length, Conformance& how) {
-  const std::size_t outside = FirstOutside(rule.accepted, text, 0, length);
+  const std::uint16_t accepted = how.IsInForce(rule.plannedBy) ? rule.planned : rule.accepted;
+  const std::size_t outside = FirstOutside(accepted, text, 0, length);
   if (outside < length) {
-    const Refusal character = CheckMore(rule, text, outside, length, how);
+    const Refusal character = CheckMore(rule, accepted, text, outside, length, how);
     if (character.IsRefused()) return character;
   }
   if (how.IsInForce(rule.percentPairBy)) {

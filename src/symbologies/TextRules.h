@@ -39,8 +39,10 @@ struct TextRule {
   std::uint16_t accepted;  // classes that the published symbology has
   std::uint16_t shortest;  // 1 and more
   std::uint16_t longest;
-  Deviation emptyBy;   // takes the empty text; kNone: nothing does
-  std::uint16_t more;  // classes accepted besides where moreBy is in force
+  std::uint16_t planned;  // classes accepted instead where plannedBy, a plan of the device, is in
+  Deviation plannedBy;    // force
+  Deviation emptyBy;      // takes the empty text; kNone: nothing does
+  std::uint16_t more;     // classes accepted besides where moreBy is in force
   Deviation moreBy;
   Deviation moreInFrontBy;  // met instead by those with none of the accepted classes before them
   Deviation percentPairBy;  // makes one '%' of two

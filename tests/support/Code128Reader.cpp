@@ -88,20 +88,69 @@ std::optional<std::string> DataOf(Set set, int value) {
   return std::string(1, static_cast<char>(isControl ? value - 64 : value + 32));
 }
 
+// A value that stands for something else than data or a switch.
+bool IsShift(Set set, int value) { return value == 98 && set != Set::kC; }
+bool IsFnc4(Set set, int value) {
+  return (set == Set::kA && value == 101) || (set == Set::kB && value == 100);
+}
+
+// What the set and the FNC4s before it make of one value after the other.
+class TextReader {
+ public:
+  explicit TextReader(Set set) : set_(set) {}
+
+  bool Take(int value) {
+    if (IsFnc4(set_, value)) return TakeFnc4();
+    if (IsShift(set_, value)) {
+      if (isShifted_) return false;
+      isShifted_ = true;
+      return true;
+    }
+    if (const std::optional<Set> next = SetAfter(set_, value)) {
+      set_ = *next;
+      return !isShifted_ && !hasFnc4_;
+    }
+    return TakeData(value);
+  }
+
+  // Behind a shift or an FNC4 something has to follow.
+  bool IsComplete() const { return !isShifted_ && !hasFnc4_; }
+  const std::string& Text() const { return text_; }
+
+ private:
+  bool TakeFnc4() {
+    if (isShifted_) return false;
+    if (hasFnc4_) isLatched_ = !isLatched_;
+    hasFnc4_ = !hasFnc4_;
+    return true;
+  }
+
+  bool TakeData(int value) {
+    const Set other = set_ == Set::kA ? Set::kB : Set::kA;
+    const std::optional<std::string> data = DataOf(isShifted_ ? other : set_, value);
+    if (!data) return false;
+    const bool isHigh = set_ != Set::kC && isLatched_ != hasFnc4_;
+    for (const char c : *data) text_ += static_cast<char>(isHigh ? c + 128 : c);
+    isShifted_ = false;
+    hasFnc4_ = false;
+    return true;
+  }
+
+  Set set_;
+  bool isShifted_ = false;
+  bool hasFnc4_ = false;  // for the next character alone
+  bool isLatched_ = false;
+  std::string text_;
+};
+
 std::optional<std::string> ReadText(const std::vector<int>& values) {
   if (values.front() < 103 || values.front() > 105) return std::nullopt;
-  Set set = values.front() == 103 ? Set::kA : values.front() == 104 ? Set::kB : Set::kC;
-  std::string text;
+  TextReader reader(values.front() == 103 ? Set::kA : values.front() == 104 ? Set::kB : Set::kC);
   for (std::size_t i = 1; i + 1 < values.size(); ++i) {
-    if (const std::optional<Set> next = SetAfter(set, values[i])) {
-      set = *next;
-      continue;
-    }
-    const std::optional<std::string> data = DataOf(set, values[i]);
-    if (!data) return std::nullopt;
-    text += *data;
+    if (!reader.Take(values[i])) return std::nullopt;
   }
-  return text;
+  if (!reader.IsComplete()) return std::nullopt;
+  return reader.Text();
 }
 
 }  // namespace

@@ -1,7 +1,7 @@
 // A plain reader of Code 128, written from the published symbology (ISO/IEC 15417) with a table of
-// its own: from the letters of a module string back to values and text. It follows the code-set
-// switches as any standard reader does, knows nothing of the library's deviations, and takes
-// function characters and the shift, which the library never writes, for a defect.
+// its own: from the letters of a module string back to values and text. It follows code-set
+// switches, shift and FNC4 as any standard reader does, knows nothing of the library's deviations,
+// and takes FNC1, FNC2 and FNC3, which the library never writes, for a defect.
 #ifndef BARHATCH_TESTS_SUPPORT_CODE128READER_H
 #define BARHATCH_TESTS_SUPPORT_CODE128READER_H
 

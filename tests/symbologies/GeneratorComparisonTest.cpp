@@ -123,6 +123,22 @@ TEST(GeneratorComparison, Interleaved2of5) {
   }
 }
 
+// The generator's choice of sets is its own: never shorter than the shortest.
+TEST(GeneratorComparison, Code128IsNeverLonger) {
+  std::string alphabet = kDigits + kDigits + kDigits + kDigits;
+  for (int character = 1; character < 128; ++character) alphabet += static_cast<char>(character);
+  SeededTexts texts(128);
+  int shorter = 0;
+  for (int i = 0; i < 10000; ++i) {
+    const std::string text = texts.Next(alphabet, 1, 40);
+    const std::string theirs = ModulesOfTheGenerator(BARCODE_CODE128, 0, text);
+    const std::string ours = ModulesOf(test::DrawnByTheBook(5, text));
+    ASSERT_LE(ours.size(), theirs.size()) << text;
+    shorter += ours.size() < theirs.size() ? 1 : 0;
+  }
+  RecordProperty("shorter", shorter);
+}
+
 // The generator refuses the digits of a UPC-E symbol whose UPC-A number has another, preferred
 // form.
 bool HasAnotherUpcEForm(const std::string& upcE) {
