@@ -8,6 +8,8 @@ namespace barhatch {
 
 namespace {
 
+constexpr double kMostExtent = 1e150;  // below the root of the largest double
+
 bool IsQuietInside(const BarhatchJob& job) { return (job.flags & BARHATCH_QUIET_INSIDE) != 0; }
 
 bool HasWideElements(const BarhatchJob& job, const MarkedSymbol& symbol) {
@@ -69,6 +71,14 @@ void DescribeExtents(const BarhatchJob& job, const MarkedSymbol& symbol, const E
   result.total[1] = result.symbol[1] - quiet.below * module;
   result.total[2] = result.symbol[2] + quiet.right * module;
   result.total[3] = result.symbol[3] + quiet.above * module;
+}
+
+bool IsMarkable(const BarhatchResult& result) {
+  if (!(result.x_dimension > 0.0 && result.narrowest > 0.0)) return false;
+  for (const double extent : result.total) {
+    if (!(extent >= -kMostExtent && extent <= kMostExtent)) return false;
+  }
+  return true;
 }
 
 }  // namespace barhatch

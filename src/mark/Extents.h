@@ -23,6 +23,10 @@ Extents ExtentsOf(const BarhatchJob& job, const MarkedSymbol& symbol);
 void DescribeExtents(const BarhatchJob& job, const MarkedSymbol& symbol, const Extents& extents,
                      BarhatchResult& result);
 
+// Of what DescribeExtents wrote. False where a module has no width left or the symbol lies so far
+// out that the squares of its coordinates, of which lengths are made, are no numbers.
+bool IsMarkable(const BarhatchResult& result);
+
 }  // namespace barhatch
 
 #endif

@@ -142,6 +142,7 @@ Refusal FinishResult(const BarhatchJob& job, const MarkedSymbol& symbol, Deviati
 
   const Extents extents = ExtentsOf(job, symbol);
   DescribeExtents(job, symbol, extents, result);
+  if (!IsMarkable(result)) return {Reason::kGeometry, -1, 0};
   if (!Wants(job, BARHATCH_WANT_STROKES)) return FinishBlock(job, symbol, met, nullptr, result);
   MarkStrokes strokes(job, symbol, extents);
   return FinishBlock(job, symbol, met, &strokes, result);

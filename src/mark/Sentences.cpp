@@ -195,6 +195,9 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
     case Reason::kNoSuchSize:
       SayNoSuchSize(job, message);
       break;
+    case Reason::kGeometry:
+      message << "the symbol is too large or too small to be marked";
+      break;
     case Reason::kNothingToMark:
       message << "no stroke lies in any element at this size and gap";
       break;
