@@ -34,6 +34,9 @@ class InputText {
   // Where the host's text has the unit.
   TextPlace PlaceOf(std::size_t unit) const;
 
+  // The character at a place: a code point of UTF-8, a byte, a unit.
+  std::uint32_t CodeAt(const TextPlace& place) const { return At(place.begin).code; }
+
  private:
   // One character of the text: a code point of UTF-8, a byte, a unit.
   struct Character {

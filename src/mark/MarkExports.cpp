@@ -41,6 +41,20 @@ bool MayMissElements(const BarhatchJob& job, const BarhatchResult& result) {
   return result.narrowest > 0.0 && job.gap > result.narrowest;
 }
 
+// The six digits of UPC-E are refused together, any other character alone.
+constexpr std::size_t kUpcEDigits = 6;
+
+Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result) {
+  if (refusal.position < 0) return refusal;
+  TextPlace place = text.PlaceOf(static_cast<std::size_t>(refusal.position));
+  if (refusal.reason == Reason::kCharacter) {
+    refusal.figure = static_cast<std::int32_t>(text.CodeAt(place));
+  }
+  if (refusal.reason == Reason::kNotStandard && refusal.position > 0) place.extent = kUpcEDigits;
+  SetPlace(place, result);
+  return refusal;
+}
+
 Refusal MakeSymbol(const BarhatchJob& job, const InputText& text, Conformance& how,
                    MarkedSymbol& symbol, BarhatchResult& result) {
   std::size_t units = 0;
@@ -51,10 +65,7 @@ Refusal MakeSymbol(const BarhatchJob& job, const InputText& text, Conformance& h
   }
   const Refusal refusal = IsMatrix(job) ? MakeMatrixSymbol(job, text, units, how, symbol, result)
                                         : MakeLinearSymbol(job, text, units, how, symbol);
-  if (refusal.position >= 0) {
-    SetPlace(text.PlaceOf(static_cast<std::size_t>(refusal.position)), result);
-  }
-  return refusal;
+  return WithPlace(text, refusal, result);
 }
 
 Refusal MakeMark(const BarhatchJob& job, BarhatchResult& result) {

@@ -31,7 +31,8 @@ Message& Message::operator<<(std::int32_t number) {
 
 Message& Message::Code(std::int32_t code) {
   *this << "0x";
-  for (int shift = code > 0xFF ? 12 : 4; shift >= 0; shift -= 4)
+  const int digits = code > 0xFFFFF ? 6 : code > 0xFFFF ? 5 : code > 0xFF ? 4 : 2;
+  for (int shift = 4 * (digits - 1); shift >= 0; shift -= 4)
     Put("0123456789ABCDEF"[code >> shift & 0xF]);
   if (code <= ' ' || code >= 127) return *this;
   *this << " '";

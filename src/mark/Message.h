@@ -19,7 +19,7 @@ class Message {
   Message& operator<<(const char* text);
   Message& operator<<(std::int32_t number);
 
-  // A byte or unit as "0x65 'e'", the character where ASCII prints it.
+  // A byte, unit or code point as "0x65 'e'", the character where ASCII prints it.
   Message& Code(std::int32_t code);
 
  private:

@@ -112,6 +112,11 @@ void SayNotStandard(const BarhatchJob& job, std::int32_t place, Message& message
   }
 }
 
+bool WouldGrow(const BarhatchJob& job, std::int32_t codewords) {
+  SymbolSize size;
+  return !ChooseSymbolSize(codewords, {job.rows, job.columns, 1}, size).IsRefused();
+}
+
 Message& SaySize(int rows, int columns, Message& message) {
   return message << rows << "x" << columns;
 }
@@ -127,7 +132,8 @@ void SayTooSmall(const BarhatchJob& job, const Refusal& refusal, Message& messag
     message << "the first rectangle that holds them does not lie within ";
     SaySize(job.rows, job.columns, message);
   }
-  if (refusal.reason == Reason::kNoPermissionToGrow) message << "; MAY_GROW allows a larger one";
+  const bool mayNot = refusal.reason == Reason::kNoPermissionToGrow;
+  if (mayNot && WouldGrow(job, refusal.figure)) message << "; MAY_GROW allows a larger one";
 }
 
 void SayNoSuchSize(const BarhatchJob& job, Message& message) {
@@ -138,9 +144,12 @@ void SayNoSuchSize(const BarhatchJob& job, Message& message) {
   SaySize(next->symbolRows, next->symbolColumns, message) << " is the next";
 }
 
-void SayCharacter(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
-                  Message& message) {
-  const SymbologyName& name = *NameOf(job.symbology);
+void SayCharacter(const BarhatchJob& job, const SymbologyName& name, const Refusal& refusal,
+                  std::int32_t place, Message& message) {
+  if (refusal.figure == 0 && job.conformance == BARHATCH_DEVICE) {
+    message << "character " << place << " is 0, which ends a text of the device";
+    return;
+  }
   message << "character " << place << " (";
   message.Code(refusal.figure) << ") is not in " << name.name << ": "
                                << AcceptedBy(name, job.conformance);
@@ -157,7 +166,7 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
       message << "byte " << place << " is not UTF-8";
       break;
     case Reason::kCharacter:
-      SayCharacter(job, refusal, place, message);
+      SayCharacter(job, name, refusal, place, message);
       break;
     case Reason::kLength:
       SayLength(job, name, refusal.figure, message);

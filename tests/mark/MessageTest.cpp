@@ -68,6 +68,13 @@ TEST(Message, ShowsFourDigitsOfACodeAboveABytes) {
   EXPECT_EQ(SaidCode(0xFFFF), "0xFFFF");
 }
 
+TEST(Message, ShowsAsManyDigitsAsACodePointHas) {
+  EXPECT_EQ(SaidCode(0x10000), "0x10000");
+  EXPECT_EQ(SaidCode(0xFFFFF), "0xFFFFF");
+  EXPECT_EQ(SaidCode(0x100000), "0x100000");
+  EXPECT_EQ(SaidCode(0x10FFFF), "0x10FFFF");
+}
+
 TEST(Message, IsCutWhereItDoesNotFitAndStillEnds) {
   const std::string fits(Message::kCapacity - 1, 'a');
   EXPECT_EQ(Said([&](Message& message) { message << fits.c_str(); }), fits);

@@ -1,0 +1,289 @@
+// Every status that this version gives, for each symbology that has it: message, position, extent.
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "mark/MarkTesting.h"
+
+namespace barhatch::test {
+namespace {
+
+// "4 at 3+1: sentence"
+std::string Refused(const BarhatchJob& job) {
+  const Mark mark(job);
+  EXPECT_EQ(mark->strokes, nullptr);
+  EXPECT_EQ(mark->block, nullptr);
+  return PlaceOf(mark) + ": " + mark.Message();
+}
+
+std::string Published(std::int32_t symbology, const char* text) {
+  return Refused(PublishedJobOf(symbology, text));
+}
+
+std::string Device(std::int32_t symbology, const char* text) {
+  return Refused(JobOf(symbology, text));
+}
+
+std::string OfUnits(std::int32_t symbology, const std::u16string& text,
+                    std::int32_t conformance = BARHATCH_DEVICE) {
+  BarhatchJob job = JobOf(symbology, nullptr, conformance);
+  job.input = BARHATCH_UNITS;
+  job.text = text.data();
+  job.length = text.size();
+  return Refused(job);
+}
+
+BarhatchJob MatrixOf(const char* text, std::int32_t rows, std::int32_t columns,
+                     std::uint32_t flags = 0) {
+  BarhatchJob job = JobOf(BARHATCH_DATA_MATRIX, text);
+  job.rows = rows;
+  job.columns = columns;
+  job.flags = flags;
+  return job;
+}
+
+std::string Digits(std::size_t count) { return std::string(count, '1'); }
+
+struct CharacterRow {
+  std::int32_t symbology;
+  const char* text;
+  const char* refusal;
+};
+
+}  // namespace
+
+TEST(Refusals, CharactersThatASymbologyLacks) {
+  const CharacterRow rows[] = {
+      {0, "A12x4B",
+       "4 at 4+1: character 4 (0x78 'x') is not in Codabar: digits and - $ : / . + between two of "
+       "A B C D T N * E"},
+      {0, "A1B2C",
+       "4 at 3+1: character 3 (0x42 'B') is not in Codabar: digits and - $ : / . + between two of "
+       "A B C D T N * E"},
+      {1, "ABCDe",
+       "4 at 5+1: character 5 (0x65 'e') is not in Code 39: digits, A-Z, - . $ / + % and space"},
+      {1, "A*B",
+       "4 at 2+1: character 2 (0x2A '*') is not in Code 39: digits, A-Z, - . $ / + % and space"},
+      {2, "AB\x01",
+       "4 at 3+1: character 3 (0x01) is not in Code 93: digits, A-Z, - . $ / + % and space"},
+      {3, "95011015310x", "4 at 12+1: character 12 (0x78 'x') is not in EAN-13: 12 digits"},
+      {4, "-", "4 at 1+1: character 1 (0x2D '-') is not in MSI: digits"},
+      {9, "0123456789 ", "4 at 11+1: character 11 (0x20) is not in UPC-A: 11 digits"},
+      {10, "2123456",
+       "4 at 1+1: character 1 (0x32 '2') is not in UPC-E: 7 digits: number system and six"},
+      {10, "012345a",
+       "4 at 7+1: character 7 (0x61 'a') is not in UPC-E: 7 digits: number system and six"},
+      {11, "12+3", "4 at 3+1: character 3 (0x2B '+') is not in Code 11: digits and -"},
+      {12, "963850~", "4 at 7+1: character 7 (0x7E '~') is not in EAN-8: 7 digits"},
+      {13, "01234567890a2",
+       "4 at 12+1: character 12 (0x61 'a') is not in UPC-A with 2-digit add-on: 13 digits: 11 and "
+       "2"},
+      {14, "a123456789051234",
+       "4 at 1+1: character 1 (0x61 'a') is not in UPC-A with 5-digit add-on: 16 digits: 11 and 5"},
+      {15, "a7713845240112",
+       "4 at 1+1: character 1 (0x61 'a') is not in EAN-13 with 2-digit add-on: 14 digits: 12 and "
+       "2"},
+      {16, "a7807798773054321",
+       "4 at 1+1: character 1 (0x61 'a') is not in EAN-13 with 5-digit add-on: 17 digits: 12 and "
+       "5"},
+      {17, "a50123412",
+       "4 at 1+1: character 1 (0x61 'a') is not in EAN-8 with 2-digit add-on: 9 digits: 7 and 2"},
+      {18, "a50123454321",
+       "4 at 1+1: character 1 (0x61 'a') is not in EAN-8 with 5-digit add-on: 12 digits: 7 and 5"},
+      {19, "a12345612",
+       "4 at 1+1: character 1 (0x61 'a') is not in UPC-E with 2-digit add-on: 9 digits: 7 and 2"},
+      {20, "a12345654321",
+       "4 at 1+1: character 1 (0x61 'a') is not in UPC-E with 5-digit add-on: 12 digits: 7 and 5"},
+      {21, "12 4", "4 at 3+1: character 3 (0x20) is not in Interleaved 2 of 5: digits"},
+      {22, "A\xC2\x80",
+       "4 at 2+2: character 2 (0x80) is not in Code 93, full ASCII: characters from 0 to 127"},
+  };
+  for (const CharacterRow& row : rows) {
+    EXPECT_EQ(Published(row.symbology, row.text), row.refusal);
+  }
+}
+
+TEST(Refusals, CharactersThatTheDeviceLacks) {
+  const char* const rest = ": characters from 32 to 127";
+  const char* const names[] = {"Code 128", "Code 128 from set A", "Code 128 set B",
+                               "Code 128 from set C"};
+  for (int i = 0; i < 4; ++i) {
+    EXPECT_EQ(Device(5 + i, "1\x1F"),
+              std::string("4 at 2+1: character 2 (0x1F) is not in ") + names[i] + rest);
+  }
+  EXPECT_EQ(Device(1, "ABCDe"),
+            "4 at 5+1: character 5 (0x65 'e') is not in Code 39: digits, A-Z, - . $ / + % and "
+            "space");
+}
+
+TEST(Refusals, CharactersOfMoreBytesAreNamedWhole) {
+  const char* const rest = " is not in MSI: digits";
+  EXPECT_EQ(Published(4, "1\xC3\xA9"), std::string("4 at 2+2: character 2 (0xE9)") + rest);
+  EXPECT_EQ(Published(4,
+                      "\xC3\xA9"
+                      "1x"),
+            std::string("4 at 1+2: character 1 (0xE9)") + rest);
+  EXPECT_EQ(Published(4, "1\xE2\x82\xAC"), std::string("4 at 2+3: character 2 (0x20AC)") + rest);
+  EXPECT_EQ(Published(4, "1\xF0\x9F\x98\x80"),
+            std::string("4 at 2+4: character 2 (0x1F600)") + rest);
+  EXPECT_EQ(OfUnits(4, u"1\U0001F600", BARHATCH_PUBLISHED),
+            std::string("4 at 2+1: character 2 (0xD83D)") + rest);
+}
+
+TEST(Refusals, CharactersOfWhichTheDeviceTakesTheLowByteAreNamedAsGiven) {
+  EXPECT_EQ(Device(4, "1\xC5\xA1"), "4 at 2+2: character 2 (0x0161) is not in MSI: digits");
+}
+
+TEST(Refusals, ZerosAmongTheCharacters) {
+  const std::string text("1\0002", 3);
+  EXPECT_EQ(Refused(LongJobOf(4, text, BARHATCH_PUBLISHED)),
+            "4 at 2+1: character 2 (0x00) is not in MSI: digits");
+  EXPECT_TRUE(Mark(LongJobOf(22, text, BARHATCH_PUBLISHED)).IsOk()) << "NUL is in full ASCII";
+  for (const std::int32_t symbology : kMarkSymbologies) {
+    EXPECT_EQ(Refused(LongJobOf(symbology, text)),
+              "4 at 2+1: character 2 is 0, which ends a text of the device")
+        << symbology;
+  }
+}
+
+TEST(Refusals, BytesThatAreNoUtf8) {
+  for (const std::int32_t symbology : kMarkSymbologies) {
+    EXPECT_EQ(Device(symbology, "1\x80"), "4 at 2+1: byte 2 is not UTF-8") << symbology;
+  }
+  EXPECT_EQ(Device(1, "\xC3\xA9\xC3"), "4 at 3+1: byte 3 is not UTF-8") << "cut";
+  EXPECT_EQ(Device(1, "A\xC0\x80"), "4 at 2+1: byte 2 is not UTF-8") << "too long a form";
+  EXPECT_EQ(Device(1, "A\xED\xA0\x80"), "4 at 2+1: byte 2 is not UTF-8") << "a surrogate";
+  EXPECT_EQ(Device(1, "A\xF4\x90\x80\x80"), "4 at 2+1: byte 2 is not UTF-8") << "beyond Unicode";
+  EXPECT_EQ(Device(1, "A\xE2\x82"), "4 at 2+1: byte 2 is not UTF-8") << "missing";
+}
+
+TEST(Refusals, EmptyTexts) {
+  for (std::int32_t symbology = 0; symbology < 23; ++symbology) {
+    const bool isToCome = symbology >= 5 && symbology <= 8;
+    const BarhatchJob job = JobOf(symbology, "", isToCome ? BARHATCH_DEVICE : BARHATCH_PUBLISHED);
+    const Mark mark(job);
+    EXPECT_EQ(PlaceOf(mark), "3 at 0+0");
+    EXPECT_EQ(mark.Message(), std::string(mark->name) + " needs at least one character");
+    BarhatchJob null = job;
+    null.text = nullptr;
+    EXPECT_EQ(Refused(null), Refused(job));
+  }
+}
+
+TEST(Refusals, LengthsThatASymbologyLacks) {
+  EXPECT_EQ(Published(3, "95011015310"), "5 at 0+0: EAN-13 takes 12 digits, 11 given");
+  EXPECT_EQ(Published(3, "9501101531000"), "5 at 0+0: EAN-13 takes 12 digits, 13 given");
+  EXPECT_EQ(Published(9, "1"), "5 at 0+0: UPC-A takes 11 digits, 1 given");
+  EXPECT_EQ(Published(10, "01234567"),
+            "5 at 0+0: UPC-E takes 7 digits: number system and six, 8 given");
+  EXPECT_EQ(Published(12, "12345678"), "5 at 0+0: EAN-8 takes 7 digits, 8 given");
+  EXPECT_EQ(Published(16, "978077987730543210"),
+            "5 at 0+0: EAN-13 with 5-digit add-on takes 17 digits: 12 and 5, 18 given");
+  EXPECT_EQ(Device(13, "012345678901"),
+            "5 at 0+0: UPC-A with 2-digit add-on takes 13 digits: 11 and 2, 12 given");
+  EXPECT_EQ(Published(0, "AB"),
+            "5 at 0+0: Codabar takes digits and - $ : / . + between two of A B C D T N * E, 2 "
+            "given");
+}
+
+TEST(Refusals, TextsThatAreTooLong) {
+  const std::string most = Digits(3119);
+  const std::string more = Digits(3120);
+  EXPECT_TRUE(Mark(PublishedJobOf(4, most.c_str())).IsOk());
+  EXPECT_EQ(Published(4, more.c_str()), "5 at 0+0: MSI takes at most 3119 characters, 3120 given");
+  EXPECT_EQ(Published(3, more.c_str()), "5 at 0+0: EAN-13 takes 12 digits, 3120 given");
+  EXPECT_EQ(Published(1, Digits(3115).c_str()),
+            "5 at 0+0: Code 39 takes at most 3114 characters, 3115 given");
+  EXPECT_EQ(Published(0, ("A" + Digits(3115) + "B").c_str()),
+            "5 at 0+0: Codabar takes at most 3116 characters, 3117 given");
+  EXPECT_EQ(Device(100, Digits(3117).c_str()),
+            "5 at 0+0: Data Matrix takes at most 3116 characters, 3117 given");
+}
+
+TEST(Refusals, StartAndStopCharactersThatAreMissing) {
+  EXPECT_EQ(Published(0, "123B"), "7 at 1+1: start character missing at 1");
+  EXPECT_EQ(Published(0, "A123"), "7 at 4+1: stop character missing at 4");
+  EXPECT_EQ(Published(0, "123"), "7 at 1+1: start character missing at 1");
+  EXPECT_EQ(Published(0, "A"), "7 at 1+1: stop character missing at 1");
+}
+
+TEST(Refusals, TextsOfMoreCodewordsThanThereAre) {
+  const std::string letters(2500, '\x7F');
+  EXPECT_EQ(Device(100, letters.c_str()),
+            "10 at 0+0: the text takes more than the 1558 codewords of the largest size");
+}
+
+TEST(Refusals, TextsOfMoreCodewordsThanTheSizeHas) {
+  const std::string digits = Digits(94);
+  EXPECT_EQ(Refused(MatrixOf(digits.c_str(), 26, 26)),
+            "10 at 0+0: 47 codewords, 26x26 holds 44; MAY_GROW allows a larger one");
+  EXPECT_TRUE(Mark(MatrixOf(digits.c_str(), 26, 26, BARHATCH_MAY_GROW)).IsOk());
+  EXPECT_EQ(Refused(MatrixOf(digits.c_str(), 11, 11)),
+            "10 at 0+0: 47 codewords, no size of the request holds them; MAY_GROW allows a larger "
+            "one");
+}
+
+// Where growing does not help either nobody is sent there.
+TEST(Refusals, TextsThatNoGrowthHelps) {
+  const std::string digits = Digits(100);
+  EXPECT_EQ(Refused(MatrixOf(digits.c_str(), 16, 48)), "10 at 0+0: 50 codewords, 16x48 holds 49");
+  EXPECT_EQ(Refused(MatrixOf(digits.c_str(), 16, 48, BARHATCH_MAY_GROW)),
+            "10 at 0+0: 50 codewords, 16x48 holds 49");
+  EXPECT_EQ(Refused(MatrixOf(Digits(32).c_str(), 8, 32, BARHATCH_MAY_GROW)),
+            "10 at 0+0: 16 codewords, 8x32 holds 10");
+}
+
+TEST(Refusals, RectanglesThatAreTriedByCapacity) {
+  const std::string digits = Digits(12);
+  EXPECT_EQ(
+      Refused(MatrixOf(digits.c_str(), 12, 26)),
+      "10 at 0+0: 6 codewords, the first rectangle that holds them does not lie within 12x26; "
+      "MAY_GROW allows a larger one");
+  EXPECT_TRUE(Mark(MatrixOf(digits.c_str(), 12, 26, BARHATCH_MAY_GROW)).IsOk());
+}
+
+TEST(Refusals, SizesThatDoNotExist) {
+  EXPECT_EQ(Refused(MatrixOf("123456", 11, 11)), "11 at 0+0: 11x11 is no size; 12x12 is the next");
+  EXPECT_EQ(Refused(MatrixOf("123456", 8, 20)), "11 at 0+0: 8x20 is no size; 8x32 is the next");
+  EXPECT_EQ(Refused(MatrixOf("123456", 145, 145)), "11 at 0+0: 145x145 is no size");
+  EXPECT_EQ(Refused(MatrixOf("123456", 255, 1, BARHATCH_MAY_GROW)), "11 at 0+0: 255x1 is no size");
+  EXPECT_TRUE(Mark(MatrixOf("12345678", 11, 11, BARHATCH_MAY_GROW)).IsOk());
+}
+
+TEST(Refusals, SymbolsThatTheStandardLeavesOut) {
+  EXPECT_EQ(Published(10, "1425261"),
+            "12 at 1+1: UPC-E of number system 1 is outside ISO/IEC 15420; set PERMIT");
+  EXPECT_EQ(Published(17, "963850712"),
+            "12 at 0+0: an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
+  EXPECT_EQ(Published(18, "963850712345"),
+            "12 at 0+0: an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
+  EXPECT_EQ(Published(10, "0122453"),
+            "12 at 2+6: the six digits at 2 are no UPC-A number without its zeros");
+  EXPECT_EQ(Published(20, "012304412345"),
+            "12 at 2+6: the six digits at 2 are no UPC-A number without its zeros");
+}
+
+TEST(Refusals, PermitLetsThemThroughButForDigitsThatAreNoNumber) {
+  for (const CharacterRow& row :
+       {CharacterRow{10, "1425261", ""}, CharacterRow{17, "963850712", ""},
+        CharacterRow{18, "963850712345", ""}, CharacterRow{20, "142526112345", ""}}) {
+    BarhatchJob job = PublishedJobOf(row.symbology, row.text);
+    job.flags = BARHATCH_PERMIT;
+    EXPECT_TRUE(Mark(job).IsOk()) << row.text;
+  }
+  BarhatchJob job = PublishedJobOf(10, "0122453");
+  job.flags = BARHATCH_PERMIT;
+  EXPECT_EQ(Mark(job)->status, BARHATCH_NOT_STANDARD);
+}
+
+TEST(Refusals, FillsWithoutAStroke) {
+  BarhatchJob job = PublishedJobOf(BARHATCH_CODE_39, "A1");
+  job.pattern = BARHATCH_VERTICAL_LINES;
+  job.gap = 1000.0;
+  job.quiet = 600.0;
+  job.flags = BARHATCH_QUIET_INSIDE;
+  EXPECT_EQ(Refused(job), "14 at 0+0: no stroke lies in any element at this size and gap");
+}
+
+}  // namespace barhatch::test
