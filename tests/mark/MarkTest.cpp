@@ -158,7 +158,35 @@ TEST(Mark, PublishedIsReadWhereTheDevicesIsNot) {
   EXPECT_EQ(std::string(device->deviations_met).substr(0, 8), "D-39-3: ");
 }
 
-TEST(Mark, WritesTheRestOfATextThatTheDeviceCuts) {
+TEST(Mark, OfAMatrixIsReadFromItsCodewords) {
+  EXPECT_EQ(Mark(JobOf(BARHATCH_DATA_MATRIX, "123456")).Reading(), "123456");
+  EXPECT_EQ(Mark(JobOf(BARHATCH_DATA_MATRIX, "")).Reading(), "");
+  EXPECT_EQ(Mark(JobOf(BARHATCH_DATA_MATRIX, "12\xD0\x80")).Reading(), "12") << "an ECI";
+  const Mark low(JobOf(BARHATCH_DATA_MATRIX, "1\xC3\xA9"));
+  EXPECT_EQ(low.Reading(), "1\xE8") << "the byte one lower";
+  EXPECT_EQ(low->warnings, BARHATCH_W_UNREADABLE);
+}
+
+TEST(Mark, OfAMatrixIsReadWithItsEnvelope) {
+  BarhatchJob job = JobOf(BARHATCH_DATA_MATRIX, "12");
+  job.envelope = 6;
+  const Mark mark(job);
+  EXPECT_EQ(mark.Reading(),
+            "[)>\x1E"
+            "06\x1D"
+            "12\x1E\x04");
+  EXPECT_EQ(mark->warnings, 0u);
+}
+
+TEST(Mark, OfAMatrixIsReadWithoutItsFnc1) {
+  BarhatchJob job = JobOf(BARHATCH_DATA_MATRIX, "1234");
+  job.flags = BARHATCH_FNC1_SECOND;
+  const Mark mark(job);
+  EXPECT_EQ(mark.Reading(), "1234");
+  EXPECT_EQ(mark->warnings, 0u);
+}
+
+TEST(Mark, ReadsTheBeginningOfATextThatTheDeviceCuts) {
   const std::string text(100, 'A');
   const Mark mark(JobOf(BARHATCH_CODE_128_B, text.c_str()));
   EXPECT_EQ(mark.Reading(), std::string(79, 'A'));

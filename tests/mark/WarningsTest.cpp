@@ -27,7 +27,6 @@ BarhatchJob WithQuiet(BarhatchJob job, double quiet, std::int32_t invert = 0) {
 
 TEST(Warnings, PlainMarksHaveNone) {
   for (const std::int32_t symbology : kMarkSymbologies) {
-    if (symbology == BARHATCH_DATA_MATRIX) continue;
     const Mark mark(PlainJobOf(symbology));
     const bool isRead = mark->reading != nullptr;
     EXPECT_EQ(mark->warnings, isRead ? 0u : 128u) << symbology;
