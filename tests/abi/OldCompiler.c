@@ -1,6 +1,8 @@
 /* A host for Windows CE as its compilers see it: C90 or C++98, no <stdint.h>, a wide character of
  * 16 bits. */
-#include "barhatch.h"
+#include <string.h>
+
+#include "barhatch_mark.h"
 
 #ifdef INT32_MAX
 #error "<stdint.h> is included, which these compilers do not have"
@@ -10,6 +12,8 @@
 typedef char Int32HasFourBytes[sizeof(int32_t) == 4 && (int32_t)-1 < 0 ? 1 : -1];
 typedef char Uint8HasOneByte[sizeof(uint8_t) == 1 && (uint8_t)-1 == 255 ? 1 : -1];
 typedef char Uint16HasTwoBytes[sizeof(uint16_t) == 2 && (uint16_t)-1 == 65535 ? 1 : -1];
+typedef char Uint32HasFourBytes[sizeof(uint32_t) == 4 && (uint32_t)-1 > 0 ? 1 : -1];
+typedef char Uint64HasEightBytes[sizeof(uint64_t) == 8 && (uint64_t)-1 > 0 ? 1 : -1];
 
 static const BarhatchChar* const kText = L"ABC-123";
 
@@ -24,4 +28,24 @@ int MarkWithOldCompiler(void) {
   if (fill == NULL) return 1;
   FreeBarcodeData(fill);
   return 0;
+}
+
+int MarkJobWithOldCompiler(void) {
+  BarhatchJob job;
+  BarhatchResult result;
+  int32_t status;
+  memset(&job, 0, sizeof job);
+  memset(&result, 0, sizeof result);
+  job.size = sizeof job;
+  result.size = sizeof result;
+  job.symbology = BARHATCH_CODE_39;
+  job.conformance = BARHATCH_DEVICE;
+  job.input = BARHATCH_UNITS;
+  job.text = kText;
+  job.width = 40.0;
+  job.height = 8.0;
+  job.gap = 0.1;
+  status = BarhatchMark(&job, &result);
+  BarhatchRelease(&result);
+  return (int)status;
 }
