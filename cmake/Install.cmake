@@ -9,7 +9,7 @@ install(TARGETS barhatch EXPORT barhatchTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT runtime NAMELINK_COMPONENT development)
 install(TARGETS barhatch_static EXPORT barhatchTargets
   ARCHIVE DESTINATION ${CMAKE_INSTALL_LIBDIR} COMPONENT development)
-install(FILES include/barhatch.h include/barhatch.hpp
+install(FILES include/barhatch.h include/barhatch_mark.h include/barhatch.hpp include/barhatch_values.hpp
   DESTINATION ${CMAKE_INSTALL_INCLUDEDIR} COMPONENT development)
 
 install(EXPORT barhatchTargets NAMESPACE barhatch:: DESTINATION ${package_directory} COMPONENT development)

@@ -1,118 +1,128 @@
-// barhatch for hosts in C++17: the C interface of barhatch.h with results that release themselves.
+// barhatch for hosts in C++17: the mark interface of barhatch_mark.h with jobs that keep their text
+// and results that release themselves.
 //
-//   barhatch::LinearBarcode barcode;
-//   barcode.type = barhatch::Type::kCode39;
-//   barcode.text = u"ABC-123";
-//   barcode.width = 60.0;
-//   barcode.height = 12.0;
-//   barcode.lineGap = 0.5;
-//   if (const std::optional<barhatch::Fill> fill = barhatch::Generate(barcode)) {
-//     for (const barhatch::Segment& s : fill->Segments()) Mark(s.xa, s.ya, s.xb, s.yb);
-//   }
+//   barhatch::Job job;
+//   job.symbology = barhatch::Symbology::kCode39;
+//   job.text = "ABC-123";
+//   job.xDimension = 0.5;
+//   job.height = 12.0;
+//   job.gap = 0.1;
+//   const barhatch::Result mark = barhatch::Mark(job);
+//   if (!mark) return Complain(mark.message(), mark.position());
+//   for (const barhatch::Segment& s : mark.Segments()) Trace(s.xa, s.ya, s.xb, s.yb);
 //
-// A result that could not be made is an empty optional: the library tells no reason. Nothing here
-// throws but the strings of the host when there is no memory for them. Lengths are in the host's
-// unit. The library has one block of settings for the whole process: calls from several threads
-// have to be serialised by the host.
+// Every value of a job is zero, or empty, until the host sets it, and zero is the sensible default.
+// Lengths are in the host's unit, x to the right, y upwards. There is no state: every call of Mark
+// may run in a thread of its own. Nothing here throws but the texts of a job when there is no
+// memory for them. Ranges and views of a result are valid as long as the result.
 #ifndef BARHATCH_HPP
 #define BARHATCH_HPP
 
 #include <cstddef>
 #include <cstdint>
 #include <iterator>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 
-#include "barhatch.h"
+#include "barhatch_mark.h"
+#include "barhatch_values.hpp"
 
 namespace barhatch {
 
 // A name of its own keeps these types apart from those inside of the library.
 inline namespace host {
 
-// The linear symbologies. The text that each takes is told in full in docs/symbologies.md, and what
-// is not written by the published form in docs/deviations.md: Code 39 accepts the letters from E to
-// Z, but no reader gives them back.
-enum class Type : std::int32_t {
-  kCodabar = 0,           // digits and - $ : / . +, letters at both ends
-  kCode39 = 1,            // digits, capital letters, - . $ / + % and space
-  kCode93 = 2,            // as Code 39
-  kEan13 = 3,             // 12 digits
-  kMsi = 4,               // digits
-  kCode128 = 5,           // sets B and C, by the runs of digits
-  kCode128FromA = 6,      // begins in set A
-  kCode128B = 7,          // set B alone
-  kCode128FromC = 8,      // begins in set C
-  kUpcA = 9,              // 11 digits
-  kUpcE = 10,             // 7 digits
-  kCode11 = 11,           // digits and -
-  kEan8 = 12,             // 7 digits
-  kUpcAAddOn2 = 13,       // 11 and 2 digits
-  kUpcAAddOn5 = 14,       // 11 and 5 digits
-  kEan13AddOn2 = 15,      // 12 and 2 digits
-  kEan13AddOn5 = 16,      // 12 and 5 digits
-  kEan8AddOn2 = 17,       // 7 and 2 digits
-  kEan8AddOn5 = 18,       // 7 and 5 digits
-  kUpcEAddOn2 = 19,       // 7 and 2 digits
-  kUpcEAddOn5 = 20,       // 7 and 5 digits
-  kInterleaved2of5 = 21,  // digits
-  kCode93FullAscii = 22   // ASCII; bytes above 127 are accepted and spoil the symbol
+// A text, kept by its job: UTF-8 ("ABC"), 16-bit units (u"ABC") or Text::Bytes. A NUL is a
+// character like any other.
+class Text {
+ public:
+  Text() = default;
+  Text(const char* utf8) : bytes_(utf8) {}
+  Text(std::string utf8) noexcept : bytes_(std::move(utf8)) {}
+  Text(std::string_view utf8) : bytes_(utf8) {}
+  Text(const char16_t* units) : units_(units), input_(BARHATCH_UNITS) {}
+  Text(std::u16string units) noexcept : units_(std::move(units)), input_(BARHATCH_UNITS) {}
+  Text(std::u16string_view units) : units_(units), input_(BARHATCH_UNITS) {}
+  // Each byte is a character.
+  static Text Bytes(std::string bytes) noexcept {
+    Text text(std::move(bytes));
+    text.input_ = BARHATCH_BYTES;
+    return text;
+  }
+
+  std::int32_t Input() const noexcept { return input_; }  // BarhatchInput
+  // Bytes or units with a zero behind them, valid until the text is written.
+  const void* Data() const noexcept {
+    return IsUnits() ? static_cast<const void*>(units_.c_str()) : bytes_.c_str();
+  }
+  // How many bytes or units.
+  std::size_t Length() const noexcept { return IsUnits() ? units_.size() : bytes_.size(); }
+
+ private:
+  bool IsUnits() const noexcept { return input_ == BARHATCH_UNITS; }
+
+  std::string bytes_;
+  std::u16string units_;
+  std::int32_t input_ = BARHATCH_UTF8;
 };
 
-// How the bars are filled.
-enum class Pattern : std::int32_t {
-  kScanLines = 0,              // horizontal lines across the whole symbol
-  kVerticalLines = 1,          // vertical lines upwards
-  kAlternatingHorizontal = 2,  // horizontal lines bar by bar, to and fro
-  kAlternatingVertical = 3,    // vertical lines, up and down
-  kSpiral = 5,                 // inwards, in each bar
-  kPoints = 6                  // one point at the centre of each bar
+// Functions of the host that give and take the memory of a mark: both, or neither for malloc and
+// free. They outlive the result.
+struct HostMemory {
+  void* (*allocate)(void* context, std::size_t bytes) = nullptr;  // null where there is none
+  void (*release)(void* context, void* block) = nullptr;          // what allocate gave
+  void* context = nullptr;                                        // handed to both
 };
 
-// What stands in front of the text of a Data Matrix.
-enum class CodeFormat : std::int32_t {
-  kPlain = 0,    // nothing
-  kFnc1 = 1,     // FNC1 in second position
-  kMacro05 = 2,  // header of ISO/IEC 15434 format 05
-  kMacro06 = 3   // header of ISO/IEC 15434 format 06
-};
+// A mark to be made. Of xDimension, width and, for a Data Matrix, height set one; a linear symbol
+// needs height beside it, and every pattern but points a gap.
+struct Job {
+  static constexpr double kNoQuietZone = -1.0;  // for quiet
 
-// A text as the library takes it: u"...", or L"..." on the device.
-using Text = std::basic_string<BarhatchChar>;
-
-// A barcode of a linear type. The defaults are those of InitBarcode, but for the text.
-struct LinearBarcode {
-  Type type = Type::kCodabar;             // symbology
-  Text text;                              // at most 3119 units
-  double width = 1.0;                     // of the whole symbol, quiet zones included
-  double height = 0.5;                    // of the bars
-  double printRatio = 3.0;                // width of a wide element in modules
-  bool invert = false;                    // fill the light elements
-  bool quietZone = false;                 // add those that the symbology asks for
-  Pattern pattern = Pattern::kScanLines;  // how the elements are filled
-  double lineGap = 0.0001;                // pitch of the strokes
-};
-
-// A Data Matrix. Unless asked otherwise it is the smallest square that holds the text.
-struct DataMatrix {
-  Text text;            // at most 3116 units; units above 255 are ECI designators
-  double height = 0.5;  // of the whole symbol, quiet zone included
-  CodeFormat format = CodeFormat::kPlain;  // FNC1 or a macro header
-  std::uint8_t rows = 0;                   // of the size asked for; 0 x 0: the smallest square
-  std::uint8_t columns = 0;                // of the size asked for
-  bool mayExpand = true;                   // beyond rows x columns
-  bool invert = false;                     // fill the light modules
-  bool quietZone = false;                  // add one light module on every side
-  Pattern pattern = Pattern::kScanLines;   // how the modules are filled
-  double lineGap = 0.0001;                 // pitch of the strokes
+  Symbology symbology = Symbology::kCodabar;          // what is written
+  Conformance conformance = Conformance::kPublished;  // by what rules
+  Text text;                                          // what it says
+  Envelope envelope = Envelope::kNone;                // around the text of a Data Matrix
+  Check check = Check::kOwn;                          // characters that the library adds
+  std::int32_t eci = 0;                               // 0 in this version
+  std::int32_t rows = 0;                              // of a Data Matrix; 0 x 0: the smallest
+  std::int32_t columns = 0;                           // of a Data Matrix
+  Shape shape = Shape::kSquare;                       // of a Data Matrix of 0 x 0
+  Set<Flag> flags;                                    // {Flag::kPermit, Flag::kMayGrow}
+  std::int32_t addonGap = 0;                          // 0 in this version
+  Pattern pattern = Pattern::kScanLines;              // how the elements are filled
+  std::int32_t profile = 0;                           // 0 in this version
+  Set<Want> want;                                     // none: everything
+  bool invert = false;             // fill the light elements, quiet zone included
+  std::int32_t dotsPerModule = 0;  // 0 in this version
+  Order order = Order::kOwn;       // of the strokes
+  double xDimension = 0.0;         // width of one module
+  double width = 0.0;              // of the symbol
+  double height = 0.0;             // of the bars, or of the matrix
+  double ratio = 0.0;              // of wide to narrow elements; 0: 3.0
+  double quiet = 0.0;              // zone in modules; 0: the standard's
+  double unitsPerMm = 0.0;         // 0 in this version
+  double gap = 0.0;                // pitch of the strokes
+  double beamX = 0.0;              // 0 in this version
+  double beamY = 0.0;              // 0 in this version
+  double growthX = 0.0;            // 0 in this version
+  double growthY = 0.0;            // 0 in this version
+  double dot = 0.0;                // 0 in this version
+  double markSpeed = 0.0;          // units a second, for Result::seconds
+  double jumpSpeed = 0.0;          // units a second
+  double strokeDelay = 0.0;        // seconds for each stroke
+  double jumpDelay = 0.0;          // seconds for each jump
+  double radius = 0.0;             // 0 in this version
+  double tolerance = 0.0;          // 0 in this version
+  HostMemory memory;               // of the result
 };
 
 // A stroke from a to b.
 struct Segment {
   static constexpr std::size_t kDoubles = 4;  // of the coordinates of one
-  // From coordinates in the order of FilledArray.
+  // From coordinates in the order of BarhatchResult::strokes.
   explicit constexpr Segment(const double* c) : xa(c[0]), ya(c[1]), xb(c[2]), yb(c[3]) {}
   double xa;  // where it begins
   double ya;  // where it begins
@@ -123,15 +133,13 @@ struct Segment {
 // A point to mark.
 struct Point {
   static constexpr std::size_t kDoubles = 2;  // of the coordinates of one
-  // From coordinates in the order of FilledArray.
+  // From coordinates in the order of BarhatchResult::strokes.
   explicit constexpr Point(const double* c) : x(c[0]), y(c[1]) {}
   double x;  // to the right
   double y;  // upwards
 };
 
-// Segments or points in marking order, made from the coordinates as they are asked for. Valid as
-// long as its fill: keep the fill in a variable, as a loop over Generate(barcode)->Segments() reads
-// what is released already.
+// Segments or points in marking order, made from the coordinates one by one.
 template <typename Stroke>
 class Strokes {
  public:
@@ -180,118 +188,252 @@ class Strokes {
   std::size_t count_;
 };
 
-// A fill buffer, released with this object.
-class Fill {
- public:
-  // Takes over what a vector generator of barhatch.h gave. REQUIRES: not null.
-  explicit Fill(FillBufferInfo* info) : info_(info) {}
+// A place on the part.
+struct Rect {
+  // From coordinates in the order of BarhatchResult::symbol.
+  explicit constexpr Rect(const double* c) : left(c[0]), bottom(c[1]), right(c[2]), top(c[3]) {}
+  constexpr double Width() const { return right - left; }   // to the right
+  constexpr double Height() const { return top - bottom; }  // upwards
+  double left;                                              // its left side
+  double bottom;                                            // its lower side
+  double right;                                             // its right side
+  double top;                                               // its upper side
+};
 
-  // True for Pattern::kPoints.
-  bool IsPoints() const { return info_->FillingShapeType == 2; }
-  // The segments; none of a fill of points.
-  Strokes<Segment> Segments() const { return View<Segment>(!IsPoints()); }
-  // The points; none of a fill of segments.
-  Strokes<Point> Points() const { return View<Point>(IsPoints()); }
-  // FillBufferInfo::FillHeight.
-  double Height() const { return info_->FillHeight; }
-  // FillBufferInfo::FillWidth.
-  double Width() const { return info_->FillWidth; }
-  // The record itself.
-  const FillBufferInfo& Info() const { return *info_; }
+// Bytes that lie one behind the other.
+class ByteRange {
+ public:
+  constexpr ByteRange(const std::uint8_t* bytes, std::size_t count)
+      : bytes_(bytes), count_(bytes == nullptr ? 0 : count) {}
+  constexpr std::size_t size() const { return count_; }                         // how many
+  constexpr bool empty() const { return count_ == 0; }                          // none
+  constexpr const std::uint8_t* data() const { return bytes_; }                 // null where none
+  constexpr const std::uint8_t* begin() const { return bytes_; }                // the first
+  constexpr const std::uint8_t* end() const { return bytes_ + count_; }         // behind the last
+  constexpr std::uint8_t operator[](std::size_t i) const { return bytes_[i]; }  // i < size()
 
  private:
-  struct Release {
-    void operator()(FillBufferInfo* info) const { FreeBarcodeData(info); }
-  };
+  const std::uint8_t* bytes_;
+  std::size_t count_;
+};
 
-  template <typename Stroke>
-  Strokes<Stroke> View(bool isOfThisKind) const {
-    const auto doubles = static_cast<std::size_t>(info_->BufferLength);
-    return {info_->FilledArray, isOfThisKind ? doubles / Stroke::kDoubles : 0};
+// The modules of a matrix, row by row from the top, or the elements of a linear symbol, which are
+// one row; without quiet zone.
+class ModuleGrid : public ByteRange {
+ public:
+  constexpr ModuleGrid(const std::uint8_t* modules, std::size_t rows, std::size_t columns)
+      : ByteRange(modules, rows * columns), columns_(columns) {}
+  // REQUIRES: a row and a column of the symbol, from 0.
+  constexpr bool IsDark(std::size_t row, std::size_t column) const {
+    return ((*this)[row * columns_ + column] & BARHATCH_DARK) != 0;
+  }
+  // REQUIRES: likewise.
+  constexpr bool IsWide(std::size_t row, std::size_t column) const {
+    return ((*this)[row * columns_ + column] & BARHATCH_WIDE) != 0;
   }
 
-  std::unique_ptr<FillBufferInfo, Release> info_;
+ private:
+  std::size_t columns_;
 };
 
-// A module string, released with this object: 'A' narrow bar, 'B' wide bar, 'a' narrow space, 'b'
-// wide space.
-class Modules {
+// The lines of a text, each of which ends with a line feed.
+class Lines {
  public:
-  // Takes over what GenerateBarcodeString gave. REQUIRES: not null.
-  explicit Modules(char* letters) : letters_(letters) {}
-  // The letters, valid as long as this object.
-  std::string_view View() const { return letters_.get(); }
-  // The letters with a NUL behind them.
-  const char* c_str() const { return letters_.get(); }
+  class Iterator {
+   public:
+    using iterator_category = std::input_iterator_tag;
+    using value_type = std::string_view;
+    using difference_type = std::ptrdiff_t;
+    using pointer = const std::string_view*;
+    using reference = std::string_view;
+
+    explicit constexpr Iterator(std::string_view rest) : rest_(rest) {}
+    constexpr std::string_view operator*() const { return rest_.substr(0, rest_.find('\n')); }
+    constexpr Iterator& operator++() {
+      rest_.remove_prefix((**this).size() + 1);
+      return *this;
+    }
+    constexpr Iterator operator++(int) {
+      const Iterator before = *this;
+      ++*this;
+      return before;
+    }
+    friend constexpr bool operator==(Iterator a, Iterator b) {
+      return a.rest_.size() == b.rest_.size();
+    }
+    friend constexpr bool operator!=(Iterator a, Iterator b) { return !(a == b); }
+
+   private:
+    std::string_view rest_;
+  };
+
+  explicit constexpr Lines(std::string_view text) : text_(text) {}
+  constexpr bool empty() const { return text_.empty(); }        // none
+  constexpr Iterator begin() const { return Iterator(text_); }  // the first
+  constexpr Iterator end() const { return Iterator({}); }       // behind the last
+  constexpr std::string_view Text() const { return text_; }     // all of them
 
  private:
-  std::unique_ptr<char[]> letters_;
+  std::string_view text_;
 };
 
-namespace internal {
+// What became of a job: a mark, or the status, sentence and place of a refusal. It owns what the
+// library made and gives it back with its own end. Ranges are not to be had of a result without a
+// name, as a loop over Mark(job).Segments() would read what is released already.
+class Result {
+ public:
+  // Makes the mark of a record of the C interface.
+  explicit Result(const BarhatchJob& job) noexcept {
+    record_.size = sizeof record_;
+    BarhatchMark(&job, &record_);
+  }
+  ~Result() { BarhatchRelease(&record_); }
+  // What is moved from holds nothing and has the status kBadRecord.
+  Result(Result&& other) noexcept : record_(other.record_) { other.Forget(); }
+  Result& operator=(Result&& other) noexcept {
+    if (this != &other) {
+      BarhatchRelease(&record_);
+      record_ = other.record_;
+      other.Forget();
+    }
+    return *this;
+  }
 
-inline std::optional<Fill> Own(FillBufferInfo* info) {
-  return info == nullptr ? std::nullopt : std::optional<Fill>(std::in_place, info);
+  // True for a mark, false for a refusal.
+  explicit operator bool() const noexcept { return record_.status == BARHATCH_OK; }
+  // Why there is no mark.
+  Status status() const noexcept { return static_cast<Status>(record_.status); }
+  // A sentence about the refusal or, of a mark, its first warning; empty where there is neither.
+  // Valid until the result moves.
+  std::string_view message() const noexcept { return record_.message; }
+  std::int32_t position() const noexcept { return record_.position; }  // from 1, in the text; or 0
+  std::int32_t extent() const noexcept { return record_.extent; }      // bytes or units there
+
+  // Of the symbology; empty where the job names none.
+  std::string_view name() const noexcept { return ViewOf(record_.name); }
+  // The characters that the symbology takes, in words.
+  std::string_view accepts() const noexcept { return ViewOf(record_.accepts); }
+  // What the host should know.
+  Set<Warning> warnings() const noexcept { return Set<Warning>::OfBits(record_.warnings); }
+  // Bit n is row n, from 0, of the register in docs/deviations.md.
+  std::uint64_t deviations() const noexcept { return record_.deviations; }
+
+  std::int32_t rows() const noexcept { return record_.rows; }            // of modules
+  std::int32_t columns() const noexcept { return record_.columns; }      // modules, or elements
+  std::int32_t codewords() const noexcept { return record_.codewords; }  // of data, without pads
+  std::int32_t capacity() const noexcept { return record_.capacity; }    // data codewords, at most
+  double xDimension() const noexcept { return record_.x_dimension; }     // width of one module
+  double narrowest() const noexcept { return record_.narrowest; }        // width of an element
+  Rect symbol() const noexcept { return Rect(record_.symbol); }          // without quiet zone
+  Rect total() const noexcept { return Rect(record_.total); }            // with quiet zone
+  double markLength() const noexcept { return record_.mark_length; }     // of all strokes
+  double jumpLength() const noexcept { return record_.jump_length; }     // from stroke to stroke
+  double seconds() const noexcept { return record_.seconds; }            // 0 without speeds
+
+  // True for Pattern::kPoints.
+  bool IsPoints() const noexcept { return record_.kind == BARHATCH_DOTS; }
+  // The segments; none of a mark of points.
+  Strokes<Segment> Segments() const& noexcept { return View<Segment>(!IsPoints()); }
+  Strokes<Segment> Segments() const&& = delete;
+  // The points; none of a mark of segments.
+  Strokes<Point> Points() const& noexcept { return View<Point>(IsPoints()); }
+  Strokes<Point> Points() const&& = delete;
+  // Dark and light, and in symbologies of two widths wide and narrow.
+  ModuleGrid Modules() const& noexcept {
+    return {record_.modules, static_cast<std::size_t>(record_.rows),
+            static_cast<std::size_t>(record_.columns)};
+  }
+  ModuleGrid Modules() const&& = delete;
+  // Codewords with pads and error correction, or symbol character values.
+  ByteRange Values() const& noexcept { return {record_.values, record_.values_count}; }
+  ByteRange Values() const&& = delete;
+  // The deviations that the mark has met: "D-39-2: what is done; a standard reader sees: ...".
+  Lines DeviationLines() const& noexcept { return Lines(ViewOf(record_.deviations_met)); }
+  Lines DeviationLines() const&& = delete;
+  // The bytes that a standard reader reports; none where it reads nothing.
+  std::optional<std::string_view> Reading() const noexcept {
+    if (record_.reading == nullptr) return std::nullopt;
+    return std::string_view(record_.reading, record_.reading_length);
+  }
+  // Text for people, to stand beside a linear symbol.
+  std::optional<std::string_view> Hri() const noexcept {
+    if (record_.hri == nullptr) return std::nullopt;
+    return std::string_view(record_.hri);
+  }
+  // The record itself.
+  const BarhatchResult& Record() const noexcept { return record_; }
+
+ private:
+  static std::string_view ViewOf(const char* text) noexcept {
+    return text == nullptr ? std::string_view() : std::string_view(text);
+  }
+
+  template <typename Stroke>
+  Strokes<Stroke> View(bool isOfThisKind) const noexcept {
+    return {record_.strokes, isOfThisKind ? record_.strokes_count : 0};
+  }
+
+  // Its block has another owner.
+  void Forget() noexcept {
+    record_ = {};
+    record_.status = BARHATCH_BAD_RECORD;
+  }
+
+  BarhatchResult record_{};
+};
+
+// The record of a job in C. Its text and memory stay those of the job.
+inline BarhatchJob RecordOf(const Job& job) noexcept {
+  BarhatchJob record{};
+  record.size = sizeof record;
+  record.symbology = static_cast<std::int32_t>(job.symbology);
+  record.conformance = static_cast<std::int32_t>(job.conformance);
+  record.input = job.text.Input();
+  record.text = job.text.Data();
+  record.length = job.text.Length();
+  record.envelope = static_cast<std::int32_t>(job.envelope);
+  record.check = static_cast<std::int32_t>(job.check);
+  record.eci = job.eci;
+  record.rows = job.rows;
+  record.columns = job.columns;
+  record.shape = static_cast<std::int32_t>(job.shape);
+  record.flags = job.flags.Bits();
+  record.addon_gap = job.addonGap;
+  record.pattern = static_cast<std::int32_t>(job.pattern);
+  record.profile = job.profile;
+  record.want = static_cast<std::int32_t>(job.want.Bits());
+  record.invert = job.invert ? 1 : 0;
+  record.dots_per_module = job.dotsPerModule;
+  record.order = static_cast<std::int32_t>(job.order);
+  record.x_dimension = job.xDimension;
+  record.width = job.width;
+  record.height = job.height;
+  record.ratio = job.ratio;
+  record.quiet = job.quiet;
+  record.units_per_mm = job.unitsPerMm;
+  record.gap = job.gap;
+  record.beam_x = job.beamX;
+  record.beam_y = job.beamY;
+  record.growth_x = job.growthX;
+  record.growth_y = job.growthY;
+  record.dot = job.dot;
+  record.mark_speed = job.markSpeed;
+  record.jump_speed = job.jumpSpeed;
+  record.stroke_delay = job.strokeDelay;
+  record.jump_delay = job.jumpDelay;
+  record.radius = job.radius;
+  record.tolerance = job.tolerance;
+  record.allocate = job.memory.allocate;
+  record.release = job.memory.release;
+  record.context = job.memory.context;
+  return record;
 }
 
-// The C interface would take the text up to a NUL inside and mark less than was asked for.
-inline bool HasNulInside(const Text& text) { return text.find(BarhatchChar{}) != Text::npos; }
+// Makes a mark. The job is read during the call only.
+inline Result Mark(const Job& job) noexcept { return Result(RecordOf(job)); }
 
-}  // namespace internal
-
-// Puts every setting to its default. Call it once, before anything else.
-inline void Initialise() { InitBarcode(); }
-
-// The fill of a linear barcode. The values of the barcode stay in force as settings.
-inline std::optional<Fill> Generate(const LinearBarcode& barcode) {
-  if (internal::HasNulInside(barcode.text)) return std::nullopt;
-  LinearBarcodeInfo info{};
-  info.height = barcode.height;
-  info.width = barcode.width;
-  info.type = static_cast<std::int32_t>(barcode.type);
-  info.DataString = barcode.text.c_str();
-  info.HatchingType = static_cast<std::int32_t>(barcode.pattern);
-  info.LineGap = barcode.lineGap;
-  info.InvertImage = barcode.invert ? 1 : 0;
-  info.PrintRatio = barcode.printRatio;
-  info.QuietZone = barcode.quietZone ? 1 : 0;
-  return internal::Own(GenerateLinearBarcode(&info));
-}
-
-// The fill of a Data Matrix. The values of the record stay in force as settings.
-inline std::optional<Fill> Generate(const DataMatrix& matrix) {
-  if (internal::HasNulInside(matrix.text)) return std::nullopt;
-  DataMatrixBarcodeInfo info{};
-  info.height = matrix.height;
-  info.format = static_cast<std::int32_t>(matrix.format);
-  info.DataString = matrix.text.c_str();
-  info.HatchingType = static_cast<std::int32_t>(matrix.pattern);
-  info.LineGap = matrix.lineGap;
-  info.InvertImage = matrix.invert ? 1 : 0;
-  info.MatrixSize = 256 * matrix.rows + matrix.columns;
-  info.IsExpanding = matrix.mayExpand ? 1 : 0;
-  info.QuietZone = matrix.quietZone ? 1 : 0;
-  return internal::Own(GenerateDataMatrixBarcode(&info));
-}
-
-// The module string of a text; with quiet zones if the barcode generated before had them.
-inline std::optional<Modules> GenerateModules(Type type, const Text& text) {
-  if (internal::HasNulInside(text)) return std::nullopt;
-  SetBarcodeType(static_cast<std::int32_t>(type));
-  SetDataString(text.c_str());
-  char* letters = GenerateBarcodeString();
-  return letters == nullptr ? std::nullopt : std::optional<Modules>(std::in_place, letters);
-}
-
-// Fills a module string, one of the library's or of the host's own, in the size and manner of the
-// barcode; its type and text play no part.
-inline std::optional<Fill> Hatch(const char* modules, const LinearBarcode& barcode) {
-  SetBarcodeSize(barcode.width, barcode.height);
-  SetPrintRatio(barcode.printRatio);
-  SetImageInversionMode(barcode.invert ? 1 : 0);
-  SetHatchPattern(barcode.lineGap, static_cast<std::int32_t>(barcode.pattern));
-  return internal::Own(HatchBarcodeString(modules));
-}
+// BARHATCH_VERSION of the library, which may be newer than that of the header.
+inline std::string_view Version() noexcept { return BarhatchVersion(); }
 
 }  // namespace host
 }  // namespace barhatch

@@ -3,15 +3,14 @@
 #include <cstdio>
 
 int main() {
-  barhatch::Initialise();
-  barhatch::LinearBarcode barcode;
-  barcode.type = barhatch::Type::kCode39;
-  barcode.text = u"ABC-123";
-  barcode.width = 60.0;
-  barcode.height = 12.0;
-  barcode.pattern = barhatch::Pattern::kPoints;
-  const auto fill = barhatch::Generate(barcode);
-  if (!fill) return 1;
-  std::printf("%zu points\n", fill->Points().size());
+  barhatch::Job job;
+  job.symbology = barhatch::Symbology::kCode39;
+  job.text = "ABC-123";
+  job.width = 60.0;
+  job.height = 12.0;
+  job.pattern = barhatch::Pattern::kPoints;
+  const barhatch::Result mark = barhatch::Mark(job);
+  if (!mark) return 1;
+  std::printf("%zu points\n", mark.Points().size());
   return 0;
 }
