@@ -1,23 +1,21 @@
 #!/usr/bin/env python3
-"""Usage: mark_datamatrix.py LIBRARY TEXT. Draws the modules of a Data Matrix with letters, from its centre points."""
+"""Usage: mark_datamatrix.py LIBRARY TEXT. Draws the modules of a Data Matrix with letters, or says why there is none."""
 import sys
 
-from barhatch import Library
+from barhatch import Conformance, Library, MarkError, Module, Symbology, Want
 
 
 def main(library_path, text):
     library = Library(library_path)
-    size = 100.0
-    dark = library.data_matrix(text, height=size, line_gap=1.0, hatching_type=6)
-    light = library.data_matrix(text, height=size, line_gap=1.0, hatching_type=6, invert=True)
-    if dark is None or light is None:
-        print("the library refused the text", file=sys.stderr)
+    try:
+        mark = library.mark(symbology=Symbology.DATA_MATRIX, conformance=Conformance.DEVICE, text=text,
+                            want=Want.MODULES)
+    except MarkError as refused:
+        print(f"{refused.status.name} at {refused.position}: {refused}", file=sys.stderr)
         return 1
-    modules = {point: "##" for point in dark.strokes} | {point: "  " for point in light.strokes}
-    rows = sorted({y for _, y in modules}, reverse=True)
-    for row in rows:
-        print("".join(modules[point] for point in sorted(modules) if point[1] == row))
-    print(f"{len(rows)} rows, {len(dark.strokes)} dark modules")
+    for row in range(mark.rows):
+        print("".join("##" if mark.is_dark(row, column) else "  " for column in range(mark.columns)))
+    print(f"{mark.rows} rows, {sum(module & Module.DARK for module in mark.modules)} dark modules")
     return 0
 
 
