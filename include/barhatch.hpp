@@ -39,11 +39,17 @@ inline namespace host {
 class Text {
  public:
   Text() = default;
+  // UTF-8 up to its NUL.
   Text(const char* utf8) : bytes_(utf8) {}
+  // UTF-8.
   Text(std::string utf8) noexcept : bytes_(std::move(utf8)) {}
+  // UTF-8.
   Text(std::string_view utf8) : bytes_(utf8) {}
+  // Units up to the first zero.
   Text(const char16_t* units) : units_(units), input_(BARHATCH_UNITS) {}
+  // Units.
   Text(std::u16string units) noexcept : units_(std::move(units)), input_(BARHATCH_UNITS) {}
+  // Units.
   Text(std::u16string_view units) : units_(units), input_(BARHATCH_UNITS) {}
   // Each byte is a character.
   static Text Bytes(std::string bytes) noexcept {
@@ -203,6 +209,7 @@ struct Rect {
 // Bytes that lie one behind the other.
 class ByteRange {
  public:
+  // Null has none.
   constexpr ByteRange(const std::uint8_t* bytes, std::size_t count)
       : bytes_(bytes), count_(bytes == nullptr ? 0 : count) {}
   constexpr std::size_t size() const { return count_; }                         // how many
@@ -221,6 +228,7 @@ class ByteRange {
 // one row; without quiet zone.
 class ModuleGrid : public ByteRange {
  public:
+  // Rows of columns, each a sum of BarhatchModule.
   constexpr ModuleGrid(const std::uint8_t* modules, std::size_t rows, std::size_t columns)
       : ByteRange(modules, rows * columns), columns_(columns) {}
   // REQUIRES: a row and a column of the symbol, from 0.
@@ -267,6 +275,7 @@ class Lines {
     std::string_view rest_;
   };
 
+  // A text of lines.
   explicit constexpr Lines(std::string_view text) : text_(text) {}
   constexpr bool empty() const { return text_.empty(); }        // none
   constexpr Iterator begin() const { return Iterator(text_); }  // the first
@@ -290,6 +299,7 @@ class Result {
   ~Result() { BarhatchRelease(&record_); }
   // What is moved from holds nothing and has the status kBadRecord.
   Result(Result&& other) noexcept : record_(other.record_) { other.Forget(); }
+  // Gives back what it owned before.
   Result& operator=(Result&& other) noexcept {
     if (this != &other) {
       BarhatchRelease(&record_);

@@ -96,28 +96,28 @@ enum BarhatchInput {
 
 /* job.check: 0, the symbology's own check characters, is what this version has */
 enum BarhatchCheck {
-  BARHATCH_CHECK_OWN = 0,
-  BARHATCH_CHECK_NONE = 1,
-  BARHATCH_CHECK_VERIFY = 2,
-  BARHATCH_CHECK_MOD_43 = 3,
-  BARHATCH_CHECK_MOD_16 = 4,
-  BARHATCH_CHECK_ITF_10 = 5,
-  BARHATCH_MSI_10 = 6,
-  BARHATCH_MSI_10_10 = 7,
-  BARHATCH_MSI_11 = 8,
-  BARHATCH_MSI_11_10 = 9,
-  BARHATCH_MSI_NCR_11 = 10,
-  BARHATCH_MSI_NCR_11_10 = 11,
-  BARHATCH_CODE_11_C = 12,
-  BARHATCH_CODE_11_CK = 13
+  BARHATCH_CHECK_OWN = 0,      /* those that the symbology always has */
+  BARHATCH_CHECK_NONE = 1,     /* not in this version */
+  BARHATCH_CHECK_VERIFY = 2,   /* not in this version */
+  BARHATCH_CHECK_MOD_43 = 3,   /* not in this version */
+  BARHATCH_CHECK_MOD_16 = 4,   /* not in this version */
+  BARHATCH_CHECK_ITF_10 = 5,   /* not in this version */
+  BARHATCH_MSI_10 = 6,         /* not in this version */
+  BARHATCH_MSI_10_10 = 7,      /* not in this version */
+  BARHATCH_MSI_11 = 8,         /* not in this version */
+  BARHATCH_MSI_11_10 = 9,      /* not in this version */
+  BARHATCH_MSI_NCR_11 = 10,    /* not in this version */
+  BARHATCH_MSI_NCR_11_10 = 11, /* not in this version */
+  BARHATCH_CODE_11_C = 12,     /* not in this version */
+  BARHATCH_CODE_11_CK = 13     /* not in this version */
 };
 
 /* job.shape, of a Data Matrix whose size is not asked for; device marks are square unless rows and columns say otherwise */
 enum BarhatchShape {
-  BARHATCH_SQUARE = 0,
-  BARHATCH_RECTANGLE = 1,
-  BARHATCH_ANY_SHAPE = 2,
-  BARHATCH_DMRE = 4 /* the rectangles of ISO/IEC 21471 as well */
+  BARHATCH_SQUARE = 0,    /* the smallest square */
+  BARHATCH_RECTANGLE = 1, /* not in this version */
+  BARHATCH_ANY_SHAPE = 2, /* not in this version */
+  BARHATCH_DMRE = 4       /* the rectangles of ISO/IEC 21471 as well; not in this version */
 };
 
 /* job.flags */
@@ -147,16 +147,21 @@ enum BarhatchPattern {
 };
 
 /* job.order: 0, the pattern's own, is what this version has */
-enum BarhatchOrder { BARHATCH_ORDER_OWN = 0, BARHATCH_ONE_WAY = 1, BARHATCH_SERPENTINE = 2, BARHATCH_NEAREST = 3 };
+enum BarhatchOrder {
+  BARHATCH_ORDER_OWN = 0,  /* the pattern's own */
+  BARHATCH_ONE_WAY = 1,    /* not in this version */
+  BARHATCH_SERPENTINE = 2, /* not in this version */
+  BARHATCH_NEAREST = 3     /* not in this version */
+};
 
 /* job.want: what the result is to have. 0 gives everything; otherwise the bits add up. A job that wants no strokes needs
  * no size, gap or pattern. */
 enum BarhatchWant {
   BARHATCH_WANT_VALIDATION = 1, /* status, position, message, warnings and deviations: always there */
-  BARHATCH_WANT_MODULES = 2,
-  BARHATCH_WANT_VALUES = 4,
+  BARHATCH_WANT_MODULES = 2,    /* modules */
+  BARHATCH_WANT_VALUES = 4,     /* values */
   BARHATCH_WANT_READING = 8, /* reading and hri */
-  BARHATCH_WANT_STROKES = 16,
+  BARHATCH_WANT_STROKES = 16,   /* strokes and their lengths */
   BARHATCH_WANT_DEVIATIONS = 32 /* the deviations met as text */
 };
 
@@ -172,7 +177,7 @@ typedef struct BarhatchJob {
   int32_t check;           /* BarhatchCheck */
   int32_t eci;             /* 0 in this version */
   int32_t rows;            /* of a Data Matrix; 0 x 0 is the smallest */
-  int32_t columns;
+  int32_t columns;         /* of a Data Matrix */
   int32_t shape;           /* BarhatchShape */
   uint32_t flags;          /* BarhatchFlag, added up */
   int32_t addon_gap;       /* 0 in this version */
@@ -187,43 +192,43 @@ typedef struct BarhatchJob {
   double height;           /* of the bars, or of the matrix */
   double ratio;            /* of a wide element to a narrow one, for symbologies of two widths; 0: 3.0 */
   double quiet;            /* of the quiet zone, in modules, fractions rounded up; 0 the standard's, below 0 none */
-  double units_per_mm;     /* 0 in this version, and so all down to dot */
+  double units_per_mm;     /* 0 in this version */
   double gap;              /* pitch of the strokes; BARHATCH_POINTS needs none */
-  double beam_x;
-  double beam_y;
-  double growth_x;
-  double growth_y;
-  double dot;
+  double beam_x;           /* 0 in this version */
+  double beam_y;           /* 0 in this version */
+  double growth_x;         /* 0 in this version */
+  double growth_y;         /* 0 in this version */
+  double dot;              /* 0 in this version */
   double mark_speed;       /* units per second; with both speeds the result has seconds */
-  double jump_speed;
+  double jump_speed;       /* units per second */
   double stroke_delay;     /* seconds for each stroke */
   double jump_delay;       /* seconds for each jump */
   double radius;           /* 0 in this version */
   double tolerance;        /* 0 in this version */
   void* (*allocate)(void* context, size_t bytes);  /* both or neither; neither: malloc and free */
-  void (*release)(void* context, void* block);
+  void (*release)(void* context, void* block);     /* of what allocate gave */
   void* context;           /* handed to both */
   void* reserved;          /* null */
 } BarhatchJob;
 
 /* result.status */
 enum BarhatchStatus {
-  BARHATCH_OK = 0,
+  BARHATCH_OK = 0,            /* a mark */
   BARHATCH_BAD_RECORD = 1,    /* a record that is no record of this library: null, too small, unknown bytes set */
   BARHATCH_BAD_OPTION = 2,    /* a number that names nothing, or what this symbology or version does not have */
   BARHATCH_EMPTY = 3,         /* there is no text */
   BARHATCH_BAD_CHARACTER = 4, /* position says which */
-  BARHATCH_BAD_LENGTH = 5,
+  BARHATCH_BAD_LENGTH = 5,    /* another number of characters is needed */
   BARHATCH_BAD_CHECK = 6,     /* not in this version */
   BARHATCH_BAD_SYNTAX = 7,    /* start or stop character missing */
   BARHATCH_UNKNOWN_AI = 8,    /* not in this version */
   BARHATCH_BAD_AI_DATA = 9,   /* not in this version */
   BARHATCH_TOO_LONG = 10,     /* for the symbol */
-  BARHATCH_NO_SUCH_SIZE = 11,
+  BARHATCH_NO_SUCH_SIZE = 11, /* rows x columns is no size of a Data Matrix */
   BARHATCH_NOT_STANDARD = 12, /* see BARHATCH_PERMIT */
-  BARHATCH_BAD_GEOMETRY = 13,
-  BARHATCH_NOTHING_TO_MARK = 14,
-  BARHATCH_NO_MEMORY = 15,
+  BARHATCH_BAD_GEOMETRY = 13, /* sizes, gap or speeds that make no sense */
+  BARHATCH_NOTHING_TO_MARK = 14, /* no stroke lies in any element */
+  BARHATCH_NO_MEMORY = 15,    /* nothing is leaked */
   BARHATCH_PROOF_FAILED = 16  /* not in this version */
 };
 
@@ -269,7 +274,7 @@ typedef struct BarhatchResult {
   const double* strokes;     /* in marking order */
   const uint8_t* modules;    /* rows x columns of BarhatchModule, row by row from the top */
   const uint8_t* values;     /* codewords with pads and error correction, or symbol character values */
-  size_t values_count;
+  size_t values_count;       /* of values */
   const char* hri;           /* text for people, to stand beside a linear symbol; null where there is none */
   const char* reading;       /* the bytes that a standard reader reports, with a NUL behind them; null: it reads nothing */
   size_t reading_length;     /* bytes of reading without that NUL */

@@ -163,7 +163,9 @@ template <typename Bit>
 class Set {
  public:
   constexpr Set() = default;
+  // Of one value.
   constexpr Set(Bit bit) : bits_(static_cast<std::uint32_t>(bit)) {}
+  // {Flag::kPermit, Flag::kMayGrow}
   constexpr Set(std::initializer_list<Bit> bits) {
     for (Bit bit : bits) bits_ |= static_cast<std::uint32_t>(bit);
   }
@@ -178,7 +180,9 @@ class Set {
   constexpr bool empty() const { return bits_ == 0; }     // none
   // True where the value is one of them.
   constexpr bool Has(Bit bit) const { return (bits_ & static_cast<std::uint32_t>(bit)) != 0; }
+  // Of the same values.
   friend constexpr bool operator==(Set a, Set b) { return a.bits_ == b.bits_; }
+  // Of other values.
   friend constexpr bool operator!=(Set a, Set b) { return a.bits_ != b.bits_; }
 
  private:
