@@ -96,7 +96,7 @@ enum BarhatchInput {
 
 /* job.check: 0, the symbology's own check characters, is what this version has */
 enum BarhatchCheck {
-  BARHATCH_CHECK_OWN = 0,      /* those that the symbology always has */
+  BARHATCH_CHECK_OWN = 0,      /* the symbology's own */
   BARHATCH_CHECK_NONE = 1,     /* not in this version */
   BARHATCH_CHECK_VERIFY = 2,   /* not in this version */
   BARHATCH_CHECK_MOD_43 = 3,   /* not in this version */

@@ -224,6 +224,73 @@ class Functions(Copy):
         self.expect("check-functions", "a median of 10 lines")
 
 
+class Pages(Copy):
+    PAGE = "docs/mark-api.md"
+
+    def setUp(self):
+        super().setUp()
+        for part in ("examples", "ce", "cmake", "fuzz"):
+            shutil.copytree(ROOT / part, self.root / part, ignore=shutil.ignore_patterns("corpus", "__pycache__"))
+        for path in [*ROOT.glob("*.md"), *(ROOT / "docs/images").glob("*.svg")]:
+            shutil.copy(path, self.root / path.relative_to(ROOT))
+
+    def refuses(self, before, after, complaint):
+        self.change(self.PAGE, before, after)
+        self.expect("check-docs", complaint)
+
+    def test_passes_the_tree(self):
+        self.expect("check-docs")
+
+    def test_a_field_is_missing(self):
+        self.refuses("| `rows` | `int32_t` | of a Data Matrix", "| rows | int32 | of a Data Matrix", "BarhatchJob: rows")
+
+    def test_a_field_of_another_type(self):
+        self.refuses("| `symbol` | `double[4]` |", "| `symbol` | `double[3]` |", "BarhatchResult: rows")
+
+    def test_a_function_pointer_of_another_type(self):
+        self.refuses("`void (*)(void* context, void* block)`", "`void (*)(void* block)`", "BarhatchJob: rows")
+
+    def test_a_name_with_another_number(self):
+        self.refuses("| `BARHATCH_SPIRAL` | 5 |", "| `BARHATCH_SPIRAL` | 4 |", "BARHATCH_SPIRAL = 5 stands in the page or in")
+
+    def test_a_name_is_missing(self):
+        self.change("include/barhatch_mark.h", "BARHATCH_SPIRAL = 5,", "BARHATCH_SPIRAL = 5, BARHATCH_STAR = 7,")
+        self.expect("check-docs", "BARHATCH_STAR = 7 stands")
+
+    def test_a_name_that_the_header_lacks(self):
+        self.refuses("`BARHATCH_WANT_VALIDATION` alone", "`BARHATCH_WANT_LITTLE` alone", "there is no BARHATCH_WANT_LITTLE")
+
+    def test_a_prototype_of_its_own(self):
+        self.refuses("void BarhatchRelease(BarhatchResult* result);", "void BarhatchRelease(void* result);", "BarhatchRelease: the prototype")
+
+    def test_a_link_that_leads_nowhere(self):
+        self.refuses("(#patterns)", "(#fills)", "has no such heading")
+
+    def test_a_page_that_nobody_finds(self):
+        self.change("docs/README.md", "[mark-api.md](mark-api.md)", "mark-api.md")
+        self.expect("check-docs", "does not lead to mark-api.md")
+
+
+class Names(Copy):
+    """tests/abi/check-names, which takes the project as its argument."""
+
+    def refuses(self, name, before, after, complaint):
+        shutil.copytree(ROOT / "examples", self.root / "examples", ignore=shutil.ignore_patterns("__pycache__"))
+        self.change(name, before, after)
+        result = run("python3", "-B", self.root / "tests/abi/check-names", self.root)
+        self.assertEqual(result.returncode, 1)
+        self.assertRegex(result.stderr, complaint)
+
+    def test_a_number_that_is_another_in_python(self):
+        self.refuses("examples/barhatch.py", "SPIRAL = 5", "SPIRAL = 4", "barhatch.py: Pattern")
+
+    def test_a_name_that_python_lacks(self):
+        self.refuses("include/barhatch_mark.h", "BARHATCH_W_GAP = 256", "BARHATCH_W_GAP = 256, BARHATCH_W_NEW = 512", "barhatch.py: Warning")
+
+    def test_a_name_that_cxx_lacks(self):
+        self.refuses("include/barhatch_values.hpp", "kSpiral = BARHATCH_SPIRAL,", "", "barhatch_values.hpp: Pattern")
+
+
 class Exports(unittest.TestCase):
     """Libraries in C with a version script of their own; the list has a node and a name in each line."""
     LISTED = ("OLD_1 a", "NEW_1 b")
