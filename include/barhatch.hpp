@@ -244,7 +244,7 @@ class ModuleGrid : public ByteRange {
   std::size_t columns_;
 };
 
-// The lines of a text, each of which ends with a line feed.
+// The lines of a text, without their line feeds.
 class Lines {
  public:
   class Iterator {
@@ -258,7 +258,8 @@ class Lines {
     explicit constexpr Iterator(std::string_view rest) : rest_(rest) {}
     constexpr std::string_view operator*() const { return rest_.substr(0, rest_.find('\n')); }
     constexpr Iterator& operator++() {
-      rest_.remove_prefix((**this).size() + 1);
+      const std::size_t line = (**this).size();
+      rest_.remove_prefix(line < rest_.size() ? line + 1 : line);
       return *this;
     }
     constexpr Iterator operator++(int) {
@@ -294,7 +295,7 @@ class Result {
   // Makes the mark of a record of the C interface.
   explicit Result(const BarhatchJob& job) noexcept {
     record_.size = sizeof record_;
-    BarhatchMark(&job, &record_);
+    record_.status = BarhatchMark(&job, &record_);
   }
   ~Result() { BarhatchRelease(&record_); }
   // What is moved from holds nothing and has the status kBadRecord.

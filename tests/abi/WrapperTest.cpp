@@ -364,6 +364,12 @@ TEST(Wrapper, DeviationsAreLines) {
   EXPECT_EQ(none.DeviationLines().begin(), none.DeviationLines().end());
 }
 
+TEST(Wrapper, LinesNeedNoLineFeedAtTheEnd) {
+  std::vector<std::string_view> lines;
+  for (std::string_view line : barhatch::Lines("a\n\nbc")) lines.push_back(line);
+  EXPECT_EQ(lines, (std::vector<std::string_view>{"a", "", "bc"}));
+}
+
 // Memory of the host, in which AllocationProbe counts the blocks.
 barhatch::HostMemory CountedMemory() {
   return {[](void*, std::size_t bytes) { return ::operator new(bytes, std::nothrow); },
