@@ -393,7 +393,9 @@ class Result {
   BarhatchResult record_{};
 };
 
-// The record of a job in C. Its text and memory stay those of the job.
+// A job without a name would take its text along.
+BarhatchJob RecordOf(const Job&& job) = delete;
+// The record of a job in C. It points to the text of the job, which has to stay.
 inline BarhatchJob RecordOf(const Job& job) noexcept {
   BarhatchJob record{};
   record.size = sizeof record;

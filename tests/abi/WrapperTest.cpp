@@ -92,7 +92,8 @@ bool SameBytes(const BarhatchJob& a, const BarhatchJob& b) {
 TEST(Wrapper, AJobOfDefaultsIsARecordOfZeros) {
   BarhatchJob zeros = {};
   zeros.size = sizeof zeros;
-  BarhatchJob record = barhatch::RecordOf(Job{});
+  const Job job;
+  BarhatchJob record = barhatch::RecordOf(job);
   EXPECT_STREQ(static_cast<const char*>(record.text), "");
   record.text = nullptr;
   EXPECT_TRUE(SameBytes(record, zeros));
