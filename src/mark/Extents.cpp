@@ -8,7 +8,7 @@ namespace barhatch {
 
 namespace {
 
-constexpr double kMostExtent = 1e150;  // below the root of the largest double
+constexpr double kMostExtent = 1e150;  // whose square still is a number
 
 bool IsQuietInside(const BarhatchJob& job) { return (job.flags & BARHATCH_QUIET_INSIDE) != 0; }
 

@@ -16,6 +16,7 @@ constexpr std::uint32_t kFlags =
     kMatrixFlags | BARHATCH_QUIET_INSIDE | BARHATCH_PERMIT | BARHATCH_NO_PROOF;
 constexpr std::int32_t kEveryWant = 63;
 constexpr double kMostQuietModules = 1000.0;
+constexpr double kMostLength = 1e150;  // whose square still is a number
 constexpr double kUsualRatio = 3.0;
 
 // Numbers that have no meaning yet: whoever sets one means something that this version cannot do.
@@ -227,8 +228,9 @@ std::int32_t CheckOptions(const BarhatchJob& job, Message message) {
 std::int32_t CheckGeometry(const BarhatchJob& job, Message message) {
   for (const Length& length : kLengths) {
     const double value = job.*length.field;
-    if (IsFinite(value) && value >= 0.0) continue;
-    message << length.name << " must be finite and not below 0";
+    if (value >= 0.0 && value <= kMostLength) continue;
+    const bool isLarge = IsFinite(value) && value > 0.0;
+    message << length.name << (isLarge ? " is above 1e150" : " must be finite and not below 0");
     return BARHATCH_BAD_GEOMETRY;
   }
   if (!(IsFinite(job.quiet) && job.quiet <= kMostQuietModules)) {

@@ -206,6 +206,15 @@ TEST(JobGeometry, LengthsThatAreNoneAreNamed) {
   }
 }
 
+// Positions of strokes are multiples of the gap, and lengths are made of their squares.
+TEST(JobGeometry, LengthsHaveAnEnd) {
+  for (const FieldName& row : kLengths) {
+    EXPECT_EQ(Linear([&](BarhatchJob& job) { job.*row.field = 1.1e150; }),
+              std::string("13 ") + row.name + " is above 1e150");
+  }
+  EXPECT_EQ(Linear([](BarhatchJob& job) { job.gap = 1e150; }), "0 ");
+}
+
 TEST(JobGeometry, QuietZones) {
   for (const double quiet : {kNan, kInfinity, -kInfinity, 1000.5}) {
     EXPECT_EQ(Linear([&](BarhatchJob& job) { job.quiet = quiet; }),
