@@ -193,7 +193,6 @@ TEST(DeviationsOfMarks, HaveATextForEveryRowThatATextCanTouch) {
 // By the book each of them is refused, or read as it was given and none is met.
 TEST(DeviationsOfMarks, AreNoneByTheBook) {
   for (const Row& row : kLinearRows) {
-    if (row.symbology >= 5 && row.symbology <= 8) continue;  // not in this version
     BarhatchJob job = LongJobOf(row.symbology, row.text, BARHATCH_PUBLISHED);
     job.input = BARHATCH_BYTES;
     const Mark mark(job);

@@ -160,8 +160,7 @@ TEST(Refusals, BytesThatAreNoUtf8) {
 
 TEST(Refusals, EmptyTexts) {
   for (std::int32_t symbology = 0; symbology < 23; ++symbology) {
-    const bool isToCome = symbology >= 5 && symbology <= 8;
-    const BarhatchJob job = JobOf(symbology, "", isToCome ? BARHATCH_DEVICE : BARHATCH_PUBLISHED);
+    const BarhatchJob job = PublishedJobOf(symbology, "");
     const Mark mark(job);
     EXPECT_EQ(PlaceOf(mark), "3 at 0+0");
     EXPECT_EQ(mark.Message(), std::string(mark->name) + " needs at least one character");
