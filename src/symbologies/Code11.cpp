@@ -47,7 +47,18 @@ constexpr bool TwoOfFiveWideButForThree() {
   }
   return true;
 }
+
+// Rows are found by their value alone; the names have to follow it.
+constexpr bool DigitsStandInSequence() {
+  for (int value = 0; value < 10; ++value) {
+    if (kCode11Characters[value].character != '0' + value) return false;
+  }
+  return true;
+}
 static_assert(kCode11CharacterCount == 12, "ten digits, '-' and start/stop");
+static_assert(DigitsStandInSequence() && kCode11Characters[kCode11Dash].character == '-' &&
+                  kCode11Characters[kCode11StartStop].character == '*',
+              "0 to 9, '-', then start and stop");
 static_assert(TwoOfFiveWideButForThree(), "0, 9 and - have one wide element, all others two");
 static_assert(AllOfFullLength(kCode11Characters, &Code11Character::elements), "5 elements");
 static_assert(AllDistinct(kCode11Characters, &Code11Character::elements), "12 patterns");
