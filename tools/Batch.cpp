@@ -9,6 +9,7 @@
 #include <limits>
 #include <map>
 
+#include "Explanation.h"
 #include "Messages.h"
 #include "Outputs.h"
 #include "Progress.h"
@@ -73,21 +74,22 @@ class BatchRun {
   void RunLine(const BatchLine& line) {
     Request request = options_.request;
     request.text = line.text;
-    if (options_.explain) Tell(fmt::format("{}: {}", line.number, ExplanationText(request)));
-    std::string reason;
-    std::optional<Symbol> symbol = MakeSymbol(request, reason);
-    if (!symbol) return Fail(line, kRefused, reason);
+    Symbol symbol = MakeSymbol(request);
+    if (options_.explain) Tell(fmt::format("{}: {}", line.number, ExplanationText(symbol)));
+    if (const std::optional<Failure> failure = FailureOf(symbol)) {
+      return Fail(line, failure->code, failure->sentence);
+    }
     ++marked_;
     if (!options_.explain) {
-      TellUnlessQuiet(fmt::format("{}: {}\n", line.number, Headline(*symbol, options_.speeds)));
+      TellUnlessQuiet(fmt::format("{}: {}\n", line.number, Headline(symbol)));
     }
-    if (options_.verify) VerifyLine(line, *symbol);
+    if (options_.verify) VerifyLine(line, symbol);
     if (options_.sheet) {
-      widest_ = std::max(widest_, symbol->drawing.width);
-      smallestModule_ = std::min(smallestModule_, symbol->moduleSize);
-      drawings_.push_back(std::move(symbol->drawing));
+      widest_ = std::max(widest_, symbol.drawing.width);
+      smallestModule_ = std::min(smallestModule_, symbol.result->x_dimension);
+      drawings_.push_back(std::move(symbol.drawing));
     } else {
-      WriteLine(line, *symbol);
+      WriteLine(line, symbol);
     }
   }
 
@@ -100,7 +102,7 @@ class BatchRun {
   void WriteLine(const BatchLine& line, const Symbol& symbol) {
     for (const std::string& pattern : options_.outputs) {
       const std::string path = PathOf(pattern, line);
-      const Look look = LookOf(options_, symbol.drawing.width, symbol.moduleSize);
+      const Look look = LookOf(options_, symbol.drawing.width, symbol.result->x_dimension);
       const auto [other, isNew] = written_.emplace(path, line.number);
       const std::string reason =
           isNew ? WriteOutput(path, symbol.drawing, look, options_)

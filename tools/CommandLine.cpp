@@ -5,14 +5,12 @@
 #include <CLI/CLI.hpp>
 
 #include "Messages.h"
-#include "TextRules.h"
+#include "Symbologies.h"
 
 namespace preview {
 
 namespace {
 
-constexpr const char* kDataMatrixName = "datamatrix";
-constexpr int kPoints = 6;
 constexpr double kLargestNumber = 1e9;
 
 constexpr const char* kFooter =
@@ -26,35 +24,27 @@ constexpr const char* kFooter =
     "arguments; 3 a symbol was not read back as its text.\n"
     "barhatch --list shows the types.";
 
-// Names are taken in capitals as well.
-bool IsDataMatrixName(const std::string& text) {
-  return CLI::detail::to_lower(text) == kDataMatrixName;
-}
-
-void SetType(const std::string& text, Request& request) {
-  if (IsDataMatrixName(text)) {
-    request.kind = Kind::kDataMatrix;
-  } else {
-    request.type = *LinearTypeFrom(text);
-  }
-}
-
 std::string CheckType(const std::string& text) {
-  if (IsDataMatrixName(text) || LinearTypeFrom(text)) return "";
-  return "no barcode type \"" + text + "\" (see --list)";
+  return SymbologyFrom(text) ? "" : "no barcode type \"" + text + "\" (see --list)";
 }
 
-// "16x48" as rows x 256 + columns; nothing for anything else.
-std::optional<std::int32_t> MatrixSizeFrom(const std::string& text) {
+struct MatrixSize {
+  std::int32_t rows;
+  std::int32_t columns;
+};
+
+// "16x48"; nothing for anything else.
+std::optional<MatrixSize> MatrixSizeFrom(const std::string& text) {
   const std::size_t x = text.find('x');
-  std::int32_t rows = 0;
-  std::int32_t columns = 0;
-  if (x == std::string::npos || !CLI::detail::lexical_cast(text.substr(0, x), rows) ||
-      !CLI::detail::lexical_cast(text.substr(x + 1), columns)) {
+  MatrixSize size{};
+  if (x == std::string::npos || !CLI::detail::lexical_cast(text.substr(0, x), size.rows) ||
+      !CLI::detail::lexical_cast(text.substr(x + 1), size.columns)) {
     return std::nullopt;
   }
-  if (rows < 1 || rows > 255 || columns < 1 || columns > 255) return std::nullopt;
-  return rows * 256 + columns;
+  if (size.rows < 1 || size.rows > 255 || size.columns < 1 || size.columns > 255) {
+    return std::nullopt;
+  }
+  return size;
 }
 
 std::string CheckMatrixSize(const std::string& text) {
@@ -100,24 +90,28 @@ void DescribeSymbol(CLI::App& app, Options& options) {
   Request& request = options.request;
   app.add_option("text", request.text, "text of the barcode")->group("Symbol");
   app.add_option_function<std::string>(
-         "-t,--type", [&](const std::string& text) { SetType(text, request); },
+         "-t,--type", [&](const std::string& text) { request.symbology = *SymbologyFrom(text); },
          "type by number or name (default code39)")
       ->check(CheckType);
-  AddLength(app, "-W,--width", request.width, "width of the whole symbol")->capture_default_str();
+  app.add_flag("-d,--device", request.device,
+               "as the device writes it, with its deviations from the standard");
+  app.add_flag("--permit", request.permit,
+               "write what readers know and the standard leaves out (UPC-E, add-ons of EAN-8)");
+  AddLength(app, "-W,--width", request.width, "width of a linear symbol")->capture_default_str();
   AddLength(app, "-H,--height", request.height, "height of the bars, or of a Data Matrix")
       ->capture_default_str();
-  AddLength(app, "-r,--ratio", request.ratio, "width of a wide element in modules")
-      ->capture_default_str();
-  app.add_flag("-q,--quiet-zone", request.quietZone, "add the quiet zones of the symbology");
+  AddLength(app, "-r,--ratio", request.ratio, "width of a wide element in modules (default 3)");
+  app.add_flag("-q,--quiet-zone", request.quietZone, "the quiet zones are a part of the size");
   app.add_option_function<std::string>(
          "--size",
          [&](const std::string& text) {
-           request.matrixSize = *MatrixSizeFrom(text);
-           request.expand = false;
+           const MatrixSize size = *MatrixSizeFrom(text);
+           request.rows = size.rows;
+           request.columns = size.columns;
          },
          "size of a Data Matrix, rows x columns (default: the smallest square)")
       ->check(CheckMatrixSize);
-  app.add_flag("--expand", "the Data Matrix may grow beyond --size");
+  app.add_flag("--expand", request.expand, "the Data Matrix may grow beyond --size");
   app.add_option("--format", request.format,
                  "code format of a Data Matrix: 1 FNC1 second, 2 and 3 macro headers")
       ->check(CLI::Range(0, 3));
@@ -171,12 +165,13 @@ void DescribeTasks(CLI::App& app, Options& options) {
   app.add_option("--columns", options.columns, "symbols side by side on the sheet")
       ->check(CLI::Range(1, 1000))
       ->capture_default_str();
-  app.add_flag("--explain", options.explain,
-               "say why a text is refused, or which departures from a standard touch it");
+  app.add_flag(
+      "--explain", options.explain,
+      "say why a text is refused, or what a standard reader reads and which deviations are met");
   app.add_flag("--verify", options.verify, "read the drawn symbol back with an independent reader");
   app.add_flag("--list", options.list, "show the types");
-  app.add_option("--table", options.table, "print a table of the documents: types or departures")
-      ->check(CLI::IsMember({"types", "departures"}));
+  app.add_option("--table", options.table, "print the list as a table in Markdown: types")
+      ->check(CLI::IsMember({"types"}));
   app.add_flag("-Q,--quiet", options.quiet, "print no statistics");
   app.set_version_flag("--version", "barhatch " BARHATCH_VERSION);
   app.footer(kFooter);
@@ -191,16 +186,14 @@ bool HasOutput(const Options& options, std::initializer_list<const char*> ending
   return false;
 }
 
-bool IsMatrix(const Options& o) { return o.request.kind == Kind::kDataMatrix; }
-bool IsLinear(const Options& o) { return !IsMatrix(o); }
-bool HasWideElements(const Options& o) {
-  return IsLinear(o) && RuleOf(o.request.type).widths == Widths::kNarrowAndWide;
-}
+bool IsForMatrix(const Options& o) { return IsMatrix(o.request); }
+bool IsForLinear(const Options& o) { return !IsMatrix(o.request); }
+bool IsByTheBook(const Options& o) { return ConformanceOf(o.request) == BARHATCH_PUBLISHED; }
 bool HasSvg(const Options& o) { return HasOutput(o, {".svg"}); }
 bool HasPixels(const Options& o) { return o.verify || HasOutput(o, {".png"}); }
 bool HasPicture(const Options& o) { return HasSvg(o) || HasPixels(o); }
 bool HasGcode(const Options& o) { return HasOutput(o, {".gcode", ".nc"}); }
-bool MarksPoints(const Options& o) { return o.request.pattern == kPoints; }
+bool MarksPoints(const Options& o) { return o.request.pattern == BARHATCH_POINTS; }
 bool MarksStrokes(const Options& o) { return !MarksPoints(o); }
 bool HasBatch(const Options& o) { return !o.batch.empty(); }
 bool HasSheet(const Options& o) { return o.sheet; }
@@ -212,11 +205,12 @@ struct Applicability {
   const char* where;
 };
 constexpr Applicability kApplicabilities[] = {
-    {"--width", IsLinear, "a linear type; a Data Matrix takes its size from --height"},
-    {"--ratio", HasWideElements, "the types with wide elements: codabar, code39, code11, itf"},
-    {"--size", IsMatrix, "a Data Matrix"},
-    {"--expand", IsMatrix, "a Data Matrix"},
-    {"--format", IsMatrix, "a Data Matrix"},
+    {"--permit", IsByTheBook, "marks by the book"},
+    {"--width", IsForLinear, "a linear type; a Data Matrix takes its size from --height"},
+    {"--ratio", IsForLinear, "linear types with wide elements"},
+    {"--size", IsForMatrix, "a Data Matrix"},
+    {"--expand", IsForMatrix, "a Data Matrix"},
+    {"--format", IsForMatrix, "a Data Matrix"},
     {"--animate", HasSvg, "an SVG"},
     {"--dark-part", HasPicture, "a picture (.svg, .png, --verify)"},
     {"--beam", HasPicture, "a picture (.svg, .png, --verify)"},
@@ -315,7 +309,6 @@ std::optional<int> ParseCommandLine(int argc, const char* const* argv, Options& 
     PrintError(error.what());
     return kBadArguments;
   }
-  if (app.count("--expand") > 0) options.request.expand = true;
   const std::string wrong = WhyItIsWrong(app, options);
   if (wrong.empty()) return std::nullopt;
   PrintError(wrong);

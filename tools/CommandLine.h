@@ -16,7 +16,7 @@ namespace preview {
 struct Options {
   Request request;
   std::vector<std::string> outputs;
-  std::string table;        // "types" or "departures" to print it
+  std::string table;        // "types" to print it
   std::string batch;        // file of texts, "-" for standard input
   std::size_t columns = 4;  // of the sheet
   Speeds speeds;

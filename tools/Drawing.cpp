@@ -45,15 +45,18 @@ void Place(const Drawing& part, double x, double y, Drawing& sheet) {
 
 }  // namespace
 
-Drawing DrawingOf(const FillBufferInfo& fill, double width, double height, std::string title) {
+Drawing DrawingOf(const BarhatchResult& result, std::string title) {
   Drawing drawing;
-  drawing.kind = fill.FillingShapeType == 2 ? MarkKind::kPoints : MarkKind::kStrokes;
-  drawing.width = width;
-  drawing.height = height;
+  drawing.kind = result.kind == BARHATCH_DOTS ? MarkKind::kPoints : MarkKind::kStrokes;
+  // The origin is the corner of what the size was asked for.
+  const bool isQuietInside = result.total[0] >= 0.0;
+  drawing.width = isQuietInside ? result.total[2] : result.symbol[2];
+  drawing.height = isQuietInside ? result.total[3] : result.symbol[3];
   drawing.title = std::move(title);
-  const int doubles = drawing.kind == MarkKind::kPoints ? 2 : 4;
-  drawing.marks.reserve(static_cast<std::size_t>(fill.BufferLength / doubles));
-  for (const double* c = fill.FilledArray; c < fill.FilledArray + fill.BufferLength; c += doubles) {
+  const std::size_t doubles = drawing.kind == MarkKind::kPoints ? 2 : 4;
+  drawing.marks.reserve(result.strokes_count);
+  for (std::size_t i = 0; i < result.strokes_count; ++i) {
+    const double* const c = result.strokes + i * doubles;
     drawing.marks.push_back({c[0], c[1], c[doubles - 2], c[doubles - 1]});
   }
   return drawing;

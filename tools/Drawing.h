@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "barhatch.h"
+#include "barhatch_mark.h"
 
 namespace preview {
 
@@ -34,7 +34,8 @@ struct Drawing {
   std::vector<Caption> captions;
 };
 
-Drawing DrawingOf(const FillBufferInfo& fill, double width, double height, std::string title);
+// The drawing is as large as the symbol, with the quiet zone where that is a part of it.
+Drawing DrawingOf(const BarhatchResult& result, std::string title);
 
 // All drawings in rows of so many, from the top left corner, their titles as captions below them.
 // REQUIRES: at least one drawing, all of one kind, and at least one column.

@@ -2,93 +2,48 @@
 
 #include <fmt/core.h>
 
-#include <algorithm>
-#include <optional>
+#include <sstream>
 
-#include "MatrixOutline.h"
-#include "TextRules.h"
+#include "Messages.h"
+#include "Symbologies.h"
 
 namespace preview {
 
 namespace {
 
-std::string SizeText(const MatrixRequest& size) {
-  return fmt::format("{}x{}", size.rows, size.columns);
+// Each line with two spaces in front.
+std::string Indented(const std::string& text) {
+  std::istringstream lines(text);
+  std::string indented;
+  for (std::string line; std::getline(lines, line);) indented += "  " + line + '\n';
+  return indented;
 }
 
-std::string SizeReason(int codewords, const MatrixRequest& request) {
-  const std::optional<MatrixSize> asked = MatrixSizeOf(request.rows, request.columns);
-  const std::string needs = fmt::format("the text takes {} codewords", codewords);
-  if (request.rows == 0 && request.columns == 0) {
-    return "the smallest square is chosen only where the symbol may grow beyond the size";
+std::string RefusalLines(const Symbol& symbol) {
+  const BarhatchResult& result = *symbol.result;
+  std::string lines = fmt::format("refused (status {})\n", result.status);
+  if (result.position > 0) {
+    lines += Indented(Pointed(symbol.request.text, static_cast<std::size_t>(result.position - 1),
+                              static_cast<std::size_t>(result.extent)));
   }
-  if (!asked) return fmt::format("there is no Data Matrix of {}", SizeText(request));
-  if (asked->dataCodewords < codewords) {
-    return fmt::format("{} and does not fit a Data Matrix of the size asked for, {} with {}", needs,
-                       SizeText(request), asked->dataCodewords);
-  }
-  return fmt::format(
-      "{} and would fit, but of the rectangles the first that holds them is taken, and that is not "
-      "within {}",
-      needs, SizeText(request));
+  return lines + Indented(result.message);
 }
 
-std::optional<std::string> WhyMatrixRefused(const BarcodeText& text) {
-  if (text.units.size() > kLongestMatrixText) {
-    return fmt::format("the text has {} characters, the limit is {}", text.units.size(),
-                       kLongestMatrixText);
-  }
-  const MatrixOutline outline = OutlineOf(text);
-  if (outline.size) return std::nullopt;
-  if (outline.codewords > kMostDataCodewords) {
-    return fmt::format("the text takes more than the {} codewords of the largest symbol",
-                       kMostDataCodewords);
-  }
-  return SizeReason(outline.codewords, RequestOf(text));
-}
-
-void AddLinearNotes(const BarcodeText& text, std::vector<std::string>& notes) {
-  const std::size_t taken = NarrowText(text.units).size();
-  const auto wide = std::find_if(text.units.begin(), text.units.end(),
-                                 [](char16_t unit) { return unit > 255 && (unit & 0xFF) != 0; });
-  if (wide != text.units.end()) {
-    notes.push_back(fmt::format("of {} the low byte alone is taken, {}", CharacterName(*wide),
-                                CharacterName(static_cast<char16_t>(*wide & 0xFF))));
-  }
-  if (taken < text.units.size()) {
-    notes.push_back(fmt::format("the text ends in front of {}, whose low byte is zero",
-                                CharacterName(text.units[taken])));
-  }
-}
-
-void AddMatrixNotes(const BarcodeText& text, std::vector<std::string>& notes) {
-  const auto designator =
-      std::find_if(text.units.begin(), text.units.end(), [](char16_t unit) { return unit > 255; });
-  if (designator != text.units.end()) {
-    notes.push_back(fmt::format("{} is no data: it designates ECI {}", CharacterName(*designator),
-                                static_cast<unsigned>(*designator)));
-  }
+std::string SymbolLines(const BarhatchResult& result) {
+  std::string lines = "accepted\n";
+  if (result.warnings != 0) lines += Indented("warning: " + WarningText(result));
+  lines += Indented(result.deviations_met);
+  return lines + Indented("a standard reader reads: " + ReadingText(ReadingOf(result)));
 }
 
 }  // namespace
 
-Explanation Explain(const BarcodeText& text) {
-  const bool isMatrix = text.kind == Kind::kDataMatrix;
-  const std::optional<std::string> reason =
-      isMatrix ? WhyMatrixRefused(text) : WhyRefused(text.type, text.units);
-  Explanation explanation;
-  if (isMatrix) {
-    AddMatrixNotes(text, explanation.notes);
-  } else {
-    AddLinearNotes(text, explanation.notes);
-  }
-  if (reason) {
-    explanation.reason = *reason;
-    return explanation;
-  }
-  explanation.isAccepted = true;
-  explanation.departures = DeparturesTouching(text);
-  return explanation;
+std::string ExplanationText(const Symbol& symbol) {
+  const Request& request = symbol.request;
+  const bool isMade = symbol.result->status == BARHATCH_OK;
+  return fmt::format("{} {}, {}: {}", NameOf(request.symbology), Quoted(request.text),
+                     ConformanceName(request),
+                     isMade ? SymbolLines(*symbol.result) : RefusalLines(symbol));
 }
 
 }  // namespace preview

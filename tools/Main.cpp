@@ -1,5 +1,4 @@
-// The preview host: asks the library for a barcode as the host on a device would, and shows what
-// the head would mark.
+// The preview host: a host of the mark interface that shows what the head would mark.
 #include <cstdio>
 #include <exception>
 #include <iostream>
@@ -8,21 +7,15 @@
 
 #include "Batch.h"
 #include "CommandLine.h"
+#include "Explanation.h"
 #include "Messages.h"
 #include "Outputs.h"
 #include "Symbol.h"
-#include "TypeTables.h"
+#include "Symbologies.h"
 
 namespace {
 
 using namespace preview;
-
-int PrintTables(const Options& options) {
-  if (options.list) Print(TypeList());
-  if (options.table == "types") Print(TypeTable());
-  if (options.table == "departures") Print(DepartureTable());
-  return kDone;
-}
 
 int VerifyAndTell(const Symbol& symbol, const Options& options) {
   const Verdict verdict = Verify(symbol, options);
@@ -35,30 +28,31 @@ int VerifyAndTell(const Symbol& symbol, const Options& options) {
 }
 
 int RunOne(const Options& options) {
-  if (options.explain) Print(ExplanationText(options.request));
-  std::string reason;
-  const std::optional<Symbol> symbol = MakeSymbol(options.request, reason);
-  if (!symbol) {
-    if (!options.explain) PrintError(reason);  // the explanation has said it
-    return kRefused;
+  const Symbol symbol = MakeSymbol(options.request);
+  if (options.explain) Print(ExplanationText(symbol));
+  if (const std::optional<Failure> failure = FailureOf(symbol)) {
+    const bool isExplained = options.explain && failure->code == kRefused;
+    if (!isExplained) PrintError(failure->sentence);
+    return failure->code;
   }
-  const Look look = LookOf(options, symbol->drawing.width, symbol->moduleSize);
+  const Look look = LookOf(options, symbol.drawing.width, symbol.result->x_dimension);
   for (const std::string& path : options.outputs) {
-    reason = WriteOutput(path, symbol->drawing, look, options);
+    const std::string reason = WriteOutput(path, symbol.drawing, look, options);
     if (reason.empty()) continue;
     PrintError(reason);
     return kRefused;
   }
-  if (!options.quiet) {
-    Print(Headline(*symbol, options.speeds) + '\n' + Facts(*symbol, options.speeds));
-  }
-  return options.verify ? VerifyAndTell(*symbol, options) : kDone;
+  if (!options.quiet) Print(Headline(symbol) + '\n' + Facts(symbol, options.speeds));
+  return options.verify ? VerifyAndTell(symbol, options) : kDone;
 }
 
 int ParseAndRun(int argc, char** argv) {
   Options options;
   if (const std::optional<int> code = ParseCommandLine(argc, argv, options)) return *code;
-  if (options.list || !options.table.empty()) return PrintTables(options);
+  if (options.list || !options.table.empty()) {
+    Print(options.list ? SymbologyList() : SymbologyTable());
+    return kDone;
+  }
   return options.batch.empty() ? RunOne(options) : RunBatch(options);
 }
 

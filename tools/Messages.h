@@ -4,6 +4,8 @@
 
 #include <string>
 
+#include "barhatch_mark.h"
+
 namespace preview {
 
 // Documented in the help text and the manual page.
@@ -18,9 +20,16 @@ void PrintError(const std::string& text);
 // "cannot write x.svg: No such file or directory": the reason is that of errno, where it has one.
 std::string SystemFailure(const std::string& whatFailed);
 
-// The text in quotes, fit for one line: control characters shown as \x09, no more than so many
-// bytes and an ellipsis.
+// The text in quotes, fit for one line: control characters and stray bytes shown as \x09, no more
+// than so many bytes and an ellipsis.
 std::string Quoted(const std::string& text, std::size_t most = 80);
+
+// The text on one line and, on the next, a ^ below each of so many bytes from there; behind the
+// text where it ends there. Of a long text the part around it.
+std::string Pointed(const std::string& text, std::size_t begin, std::size_t extent);
+
+// The library's sentence of the first warning, and how many there are besides.
+std::string WarningText(const BarhatchResult& result);
 
 }  // namespace preview
 

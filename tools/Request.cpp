@@ -1,124 +1,85 @@
 #include "Request.h"
 
-#include "TextRules.h"
-
 namespace preview {
 
 namespace {
 
-constexpr char32_t kBroken = 0xFFFFFFFF;
+constexpr int kFnc1Format = 1;
+constexpr int kMacro05Format = 2;
+constexpr int kMacro06Format = 3;
 
-// The code point that starts at index, which moves behind it; kBroken for what is none: stray and
-// missing bytes, longer forms than needed, surrogates, values above U+10FFFF.
-char32_t NextCodePoint(const std::string& utf8, std::size_t& index) {
-  const auto byteAt = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
-  const unsigned char first = byteAt(index++);
-  if (first < 0x80) return first;
-  if (first < 0xC2 || first > 0xF4) return kBroken;
-  const int more = first >= 0xF0 ? 3 : first >= 0xE0 ? 2 : 1;
-  char32_t point = first & (0x3Fu >> more);
-  for (int i = 0; i < more; ++i) {
-    if (index >= utf8.size() || (byteAt(index) & 0xC0) != 0x80) return kBroken;
-    point = point << 6 | (byteAt(index++) & 0x3Fu);
-  }
-  constexpr char32_t kLeast[] = {0, 0x80, 0x800, 0x10000};
-  const bool isSurrogate = point >= 0xD800 && point < 0xE000;
-  return point >= kLeast[more] && point <= 0x10FFFF && !isSurrogate ? point : kBroken;
+std::uint32_t FlagsOf(const Request& request) {
+  std::uint32_t flags = 0;
+  if (request.quietZone) flags |= BARHATCH_QUIET_INSIDE;
+  if (request.permit) flags |= BARHATCH_PERMIT;
+  if (request.expand) flags |= BARHATCH_MAY_GROW;
+  if (request.format == kFnc1Format) flags |= BARHATCH_FNC1_SECOND;
+  return flags;
 }
 
-// With the NUL that the library looks for.
-std::basic_string<BarhatchChar> HostText(const Request& request) {
-  const std::u16string units = ToUnits(request.text).value_or(u"");
-  return {units.begin(), units.end()};
+std::int32_t EnvelopeOf(const Request& request) {
+  if (request.format == kMacro05Format) return 5;
+  return request.format == kMacro06Format ? 6 : 0;
 }
 
-LinearBarcodeInfo LinearRecord(const Request& request, const BarhatchChar* text) {
-  LinearBarcodeInfo info{};
-  info.height = request.height;
-  info.width = request.width;
-  info.type = request.type;
-  info.DataString = text;
-  info.HatchingType = request.pattern;
-  info.LineGap = request.gap;
-  info.InvertImage = request.invert ? 1 : 0;
-  info.PrintRatio = request.ratio;
-  info.QuietZone = request.quietZone ? 1 : 0;
-  return info;
+BarhatchJob JobOf(const Request& request) {
+  BarhatchJob job = {};
+  job.size = sizeof job;
+  job.symbology = request.symbology;
+  job.conformance = ConformanceOf(request);
+  job.text = request.text.data();
+  job.length = request.text.size();
+  job.envelope = EnvelopeOf(request);
+  job.rows = request.rows;
+  job.columns = request.columns;
+  job.flags = FlagsOf(request);
+  job.pattern = request.pattern;
+  job.invert = request.invert ? 1 : 0;
+  job.width = IsMatrix(request) ? 0.0 : request.width;
+  job.height = request.height;
+  job.ratio = request.ratio;
+  // A quiet zone of the part's own surface is always there; around light marks it is marked as
+  // well.
+  job.quiet = request.invert && !request.quietZone ? -1.0 : 0.0;
+  job.gap = request.gap;
+  return job;
 }
 
-DataMatrixBarcodeInfo MatrixRecord(const Request& request, const BarhatchChar* text) {
-  DataMatrixBarcodeInfo info{};
-  info.height = request.height;
-  info.format = request.format;
-  info.DataString = text;
-  info.HatchingType = request.pattern;
-  info.LineGap = request.gap;
-  info.InvertImage = request.invert ? 1 : 0;
-  info.MatrixSize = request.matrixSize;
-  info.IsExpanding = request.expand ? 1 : 0;
-  info.QuietZone = request.quietZone ? 1 : 0;
-  return info;
-}
-
-// The modules of the linear symbol, its wide elements as so many as they are wide.
-double ModulesOf(const Request& request) {
-  Request points = request;
-  points.pattern = 6;  // the cheapest fill; its settings stay in force, the quiet zone among them
-  Generate(points);
-  const std::unique_ptr<char[]> letters(GenerateBarcodeString());
-  double modules = 0.0;
-  for (const char* letter = letters.get(); letter != nullptr && *letter != '\0'; ++letter) {
-    modules += *letter == 'A' || *letter == 'a' ? 1.0 : request.ratio;
-  }
-  return modules;
+Result ResultOf(const BarhatchJob& job) {
+  Result result(new BarhatchResult());
+  result->size = sizeof *result;
+  BarhatchMark(&job, result.get());
+  return result;
 }
 
 }  // namespace
 
-std::optional<std::u16string> ToUnits(const std::string& utf8) {
-  std::u16string units;
-  for (std::size_t index = 0; index < utf8.size();) {
-    const char32_t point = NextCodePoint(utf8, index);
-    if (point == kBroken || point == 0) return std::nullopt;
-    if (point > 0xFFFF) {
-      units += static_cast<char16_t>(0xD800 + ((point - 0x10000) >> 10));
-      units += static_cast<char16_t>(0xDC00 + ((point - 0x10000) & 0x3FF));
-    } else {
-      units += static_cast<char16_t>(point);
-    }
-  }
-  return units;
+void ResultRelease::operator()(BarhatchResult* result) const {
+  BarhatchRelease(result);
+  delete result;
 }
 
-BarcodeText TextOf(const Request& request) {
-  return {request.kind,   request.type,       ToUnits(request.text).value_or(u""),
-          request.format, request.matrixSize, request.expand};
+Result ResultOf(const Request& request) { return ResultOf(JobOf(request)); }
+
+Result AnswerOf(std::int32_t symbology, std::int32_t conformance) {
+  BarhatchJob job = {};
+  job.size = sizeof job;
+  job.symbology = symbology;
+  job.conformance = conformance;
+  job.want = BARHATCH_WANT_VALIDATION;
+  return ResultOf(job);
 }
 
-Fill Generate(const Request& request) {
-  const std::basic_string<BarhatchChar> text = HostText(request);
-  InitBarcode();
-  if (request.kind == Kind::kDataMatrix) {
-    const DataMatrixBarcodeInfo info = MatrixRecord(request, text.c_str());
-    return Fill(GenerateDataMatrixBarcode(&info));
-  }
-  const LinearBarcodeInfo info = LinearRecord(request, text.c_str());
-  return Fill(GenerateLinearBarcode(&info));
+bool IsMatrix(const Request& request) { return request.symbology == BARHATCH_DATA_MATRIX; }
+
+std::int32_t ConformanceOf(const Request& request) {
+  const bool isInThisVersion =
+      AnswerOf(request.symbology, BARHATCH_PUBLISHED)->status != BARHATCH_BAD_OPTION;
+  return isInThisVersion && !request.device ? BARHATCH_PUBLISHED : BARHATCH_DEVICE;
 }
 
-std::string NameOf(const Request& request) {
-  return request.kind == Kind::kDataMatrix ? "datamatrix" : RuleOf(request.type).name;
-}
-
-double WidthOf(const Request& request, const FillBufferInfo& fill) {
-  if (request.kind == Kind::kLinear) return request.width;
-  return fill.FillWidth + (request.height - fill.FillHeight);
-}
-
-double ModuleSizeOf(const Request& request, const FillBufferInfo& fill) {
-  if (request.kind == Kind::kDataMatrix) return (request.height - fill.FillHeight) / 2;
-  const double modules = ModulesOf(request);
-  return modules > 0.0 ? request.width / modules : 0.0;
+const char* ConformanceName(const Request& request) {
+  return ConformanceOf(request) == BARHATCH_DEVICE ? "as the device writes it" : "by the book";
 }
 
 }  // namespace preview

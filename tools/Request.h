@@ -1,57 +1,53 @@
-// What the user asked for, and the library's answer to it.
+// What the user asked for, and the library's answer to it: a job of the mark interface goes in, a
+// result comes out.
 #ifndef BARHATCH_TOOLS_REQUEST_H
 #define BARHATCH_TOOLS_REQUEST_H
 
 #include <cstdint>
 #include <memory>
-#include <optional>
 #include <string>
 
-#include "BarcodeText.h"
-#include "barhatch.h"
+#include "barhatch_mark.h"
 
 namespace preview {
 
 struct Request {
-  Kind kind = Kind::kLinear;
-  std::int32_t type = 1;  // of a linear symbol
-  std::string text;       // UTF-8
-  double width = 60.0;
+  std::int32_t symbology = BARHATCH_CODE_39;
+  bool device = false;  // as the device writes it, also where there is a mark by the book
+  bool permit = false;  // what readers know and the standard leaves out
+  std::string text;     // UTF-8
+  double width = 60.0;  // of a linear symbol
   double height = 12.0;
-  double ratio = 3.0;
+  double ratio = 0.0;  // 0: the library's
   bool invert = false;
-  bool quietZone = false;
-  std::int32_t pattern = 0;
+  bool quietZone = false;  // a part of the symbol's size
+  std::int32_t pattern = BARHATCH_SCAN_LINES;
   double gap = 0.1;
-  std::int32_t matrixSize = 0;  // of a Data Matrix: rows x 256 + columns, 0 for the smallest square
-  bool expand = true;           // a Data Matrix may grow beyond its size
-  std::int32_t format = 0;      // code format of a Data Matrix
+  std::int32_t rows = 0;  // of a Data Matrix; 0 x 0 is the smallest square
+  std::int32_t columns = 0;
+  bool expand = false;      // it may be larger than that
+  std::int32_t format = 0;  // of a Data Matrix: 1 FNC1 in second position, 2 and 3 macro headers
 };
 
-struct FillRelease {
-  void operator()(FillBufferInfo* fill) const { FreeBarcodeData(fill); }
+struct ResultRelease {
+  void operator()(BarhatchResult* result) const;
 };
-using Fill = std::unique_ptr<FillBufferInfo, FillRelease>;
+using Result = std::unique_ptr<BarhatchResult, ResultRelease>;
 
-// UTF-8 as 16-bit units, surrogate pairs beyond U+FFFF. Nothing where it is no UTF-8 or holds a
-// NUL: a mark is made of the whole text or not at all.
-std::optional<std::u16string> ToUnits(const std::string& utf8);
+// Never null; refused where its status says so.
+Result ResultOf(const Request& request);
 
-// What the rules of the texts look at. REQUIRES: text that ToUnits takes.
-BarcodeText TextOf(const Request& request);
+// What the library says of a symbology before there is a text: its name, what it accepts, and with
+// BARHATCH_BAD_OPTION that it does not write such marks in this version.
+Result AnswerOf(std::int32_t symbology, std::int32_t conformance);
 
-// Null when the library refuses. REQUIRES: text that ToUnits takes.
-Fill Generate(const Request& request);
+bool IsMatrix(const Request& request);
 
-// "code39" or "datamatrix".
-std::string NameOf(const Request& request);
+// By the book where the library can and the user does not want the device's.
+std::int32_t ConformanceOf(const Request& request);
 
-// Width of the symbol that was generated: what was asked for, or what a Data Matrix has taken. Its
-// cells are square, and both extents of a matrix are its size less two cells.
-double WidthOf(const Request& request, const FillBufferInfo& fill);
-
-// Width of one module: the X dimension. 0 where there is no symbol.
-double ModuleSizeOf(const Request& request, const FillBufferInfo& fill);
+// "by the book" or "as the device writes it".
+const char* ConformanceName(const Request& request);
 
 }  // namespace preview
 

@@ -3,36 +3,36 @@
 #ifndef BARHATCH_TOOLS_SYMBOL_H
 #define BARHATCH_TOOLS_SYMBOL_H
 
-#include <cstddef>
 #include <optional>
 #include <string>
 
 #include "CommandLine.h"
 #include "Drawing.h"
-#include "Explanation.h"
 #include "Verification.h"
 
 namespace preview {
 
 struct Symbol {
   Request request;
-  Explanation explanation;
-  Drawing drawing;
-  double moduleSize = 0.0;
-  std::size_t bufferBytes = 0;
+  Result result;    // made or refused
+  Drawing drawing;  // empty where it is refused
 };
 
-// Nothing and the reason where the library refuses.
-std::optional<Symbol> MakeSymbol(const Request& request, std::string& reason);
+Symbol MakeSymbol(const Request& request);
 
-// code39 "A1": 60 strokes
-std::string Headline(const Symbol& symbol, const Speeds& speeds);
+struct Failure {
+  int code;  // ExitCode
+  std::string sentence;
+};
+
+// Why there is no symbol, or none with these options; nothing where there is one.
+std::optional<Failure> FailureOf(const Symbol& symbol);
+
+// code39 "A1": 60 strokes, by the book
+std::string Headline(const Symbol& symbol);
 
 // The statistics, one a line.
 std::string Facts(const Symbol& symbol, const Speeds& speeds);
-
-// Accepted or refused, why, and the departures with what they do; ends with a line feed.
-std::string ExplanationText(const Request& request);
 
 // Draws the symbol and reads it back.
 Verdict Verify(const Symbol& symbol, const Options& options);

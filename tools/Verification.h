@@ -1,28 +1,34 @@
-// Holds what a reader reports against the text that was marked. The readers add what the symbol
-// carries beside the text (check digits, the leading 0 of Interleaved 2 of 5, macro headers) and
-// leave out what is no data (start and stop of Codabar, FNC1).
+// Holds what an independent reader reports of a picture against what the library promises that a
+// standard reader reports of the symbol.
 #ifndef BARHATCH_TOOLS_VERIFICATION_H
 #define BARHATCH_TOOLS_VERIFICATION_H
 
 #include <optional>
 #include <string>
 
-#include "BarcodeText.h"
 #include "ReadBack.h"
+#include "Request.h"
 
 namespace preview {
 
-// What a reader by the standard reports of the text, as bytes. REQUIRES: an accepted text.
-std::string ExpectedReading(const BarcodeText& text);
+// The bytes that the library promises; nothing where a reader reads nothing.
+std::optional<std::string> ReadingOf(const BarhatchResult& result);
+
+// In quotes, bytes as Latin-1; "nothing" where it is none.
+std::string ReadingText(const std::optional<std::string>& reading);
+
+// "D-39-2, D-39-4": the deviations that the symbol has met; empty where it has met none.
+std::string DeviationIds(const BarhatchResult& result);
 
 struct Verdict {
-  bool isRead = false;   // as the text that was marked
-  bool isBlank = false;  // the reader knows the symbology and has found no symbol
+  bool isRead = false;   // as promised, and as the text that was marked
+  bool isBlank = false;  // the reader knows the symbology and has not found the promised symbol
   std::string sentence;
 };
 
-// Names the departure that explains a difference.
-Verdict Judge(const BarcodeText& text, const std::optional<Reading>& reading);
+// REQUIRES: the result of the request, not refused.
+Verdict Judge(const Request& request, const BarhatchResult& result,
+              const std::optional<Reading>& reading);
 
 }  // namespace preview
 

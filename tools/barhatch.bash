@@ -11,7 +11,7 @@ _barhatch() {
     -p | --pattern) COMPREPLY=($(compgen -W "0 1 2 3 5 6" -- "$word")); return ;;
     --format) COMPREPLY=($(compgen -W "0 1 2 3" -- "$word")); return ;;
     --laser) COMPREPLY=($(compgen -W "M3 M4" -- "$word")); return ;;
-    --table) COMPREPLY=($(compgen -W "types departures" -- "$word")); return ;;
+    --table) COMPREPLY=($(compgen -W "types" -- "$word")); return ;;
     --size)
       COMPREPLY=($(compgen -W "10x10 12x12 14x14 16x16 18x18 20x20 22x22 24x24 26x26 32x32 36x36 40x40 44x44 48x48 52x52 64x64
         72x72 80x80 88x88 96x96 104x104 120x120 132x132 144x144 8x18 8x32 12x26 12x36 16x36 16x48" -- "$word"))
@@ -20,7 +20,7 @@ _barhatch() {
     -o | --output | --batch) COMPREPLY=($(compgen -f -- "$word")); return ;;
   esac
   if [[ $word == -* ]]; then
-    COMPREPLY=($(compgen -W "-t --type -W --width -H --height -r --ratio -q --quiet-zone --size --expand --format -p --pattern
+    COMPREPLY=($(compgen -W "-t --type -d --device --permit -W --width -H --height -r --ratio -q --quiet-zone --size --expand --format -p --pattern
       -g --gap -i --invert --mark-speed --feed --jump-speed --travel-speed --dwell --power --laser -o --output --animate
       --dark-part --beam --margin --pixels-per-unit --batch --sheet --columns --explain --verify --list --table -Q --quiet
       -h --help --version" -- "$word"))

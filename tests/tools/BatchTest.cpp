@@ -95,6 +95,28 @@ TEST(Messages, QuotedTextFitsOneLine) {
   EXPECT_EQ(Quoted("abcdef", 3), "\"abc\u2026\"");
   EXPECT_EQ(Quoted("abc", 3), "\"abc\"");
   EXPECT_EQ(Quoted("ab\u00E4cd", 3), "\"ab\u00E4\u2026\"") << "characters are not cut apart";
+  EXPECT_EQ(Quoted("a\xC3(\x80\xE2\x82"), "\"a\\xC3(\\x80\\xE2\\x82\"") << "stray bytes";
+}
+
+TEST(Messages, PlacesArePointedAtByCharacters) {
+  EXPECT_EQ(Pointed("AbC", 1, 1), "AbC\n ^\n");
+  EXPECT_EQ(Pointed("\u0141\u20ACx", 5, 1), "\u0141\u20ACx\n  ^\n") << "one column a character";
+  EXPECT_EQ(Pointed("A\u20ACB", 1, 3), "A\u20ACB\n ^\n") << "one mark for the bytes of one";
+  EXPECT_EQ(Pointed("A1234", 3, 2), "A1234\n   ^^\n");
+  EXPECT_EQ(Pointed("\tA\nB", 2, 1), "\\x09A\\x0AB\n     ^^^^\n");
+  EXPECT_EQ(Pointed("\u00E4\xFFz", 2, 1), "\u00E4\\xFFz\n ^^^^\n");
+  EXPECT_EQ(Pointed("A12", 3, 0), "A12\n   ^\n") << "what is missing behind the text";
+  EXPECT_EQ(Pointed("", 0, 0), "\n^\n");
+}
+
+TEST(Messages, OfALongTextThePartAroundIsShown) {
+  const std::string text = std::string(100, '1') + "x" + std::string(100, '2');
+  EXPECT_EQ(Pointed(text, 100, 1), "\u2026" + std::string(60, '1') + "x" + std::string(59, '2') +
+                                       "\u2026\n" + std::string(61, ' ') + "^\n");
+  const std::string wide = std::string(41, '1') + "\u00E4" + std::string(59, '3') + "x";
+  EXPECT_EQ(Pointed(wide, 102, 1),
+            "\u2026" + std::string(59, '3') + "x\n" + std::string(60, ' ') + "^\n")
+      << "begins with a whole character";
 }
 
 }  // namespace preview

@@ -3,8 +3,6 @@
 
 #include <gtest/gtest.h>
 
-#include "Request.h"
-
 namespace preview {
 
 namespace {
@@ -61,36 +59,6 @@ TEST(Statistics, OneStrokeIsOne) {
   Drawing drawing;
   drawing.marks = {{0, 0, 1, 0}};
   EXPECT_EQ(CountText(StatisticsOf(drawing, {})), "1 stroke");
-}
-
-TEST(Request, ModuleSizeIsThatOfTheSymbol) {
-  Request linear;
-  linear.text = "A1";
-  linear.width = 41.5;  // 83 modules: four characters of 15, three gaps, two quiet zones
-  linear.quietZone = true;
-  const Fill fill = Generate(linear);
-  EXPECT_DOUBLE_EQ(ModuleSizeOf(linear, *fill), 0.5);
-
-  Request matrix;
-  matrix.kind = Kind::kDataMatrix;
-  matrix.text = "123456";  // 10 x 10
-  matrix.height = 5.0;
-  const Fill cells = Generate(matrix);
-  EXPECT_DOUBLE_EQ(ModuleSizeOf(matrix, *cells), 0.5);
-  EXPECT_DOUBLE_EQ(WidthOf(matrix, *cells), 5.0);
-}
-
-TEST(Request, TextIsUtf8WithoutNul) {
-  EXPECT_EQ(ToUnits(""), u"");
-  EXPECT_EQ(ToUnits("A\xC3\xA4\xE2\x82\xAC\xF0\x9F\x98\x80"), u"A\u00E4\u20AC\U0001F600");
-  for (const std::string broken :
-       {"\x80", "\xC3", "\xC3(", "\xC0\x80", "\xE0\x80\x80", "\xED\xA0\x80", "\xF0\x80\x80\x80",
-        "\xF4\x90\x80\x80", "\xFF"}) {
-    EXPECT_EQ(ToUnits(broken), std::nullopt) << broken;
-  }
-  EXPECT_EQ(ToUnits(std::string("A\0B", 3)), std::nullopt);
-  EXPECT_EQ(ToUnits("\xED\x9F\xBF\xEE\x80\x80\xEF\xBF\xBF"), u"\uD7FF\uE000\uFFFF");
-  EXPECT_EQ(ToUnits("\xF4\x8F\xBF\xBF")->size(), 2u);
 }
 
 }  // namespace preview

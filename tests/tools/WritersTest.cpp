@@ -1,5 +1,6 @@
-// What the writers wrote, read back by plain readers of their formats, is the fill of the library:
-// the same marks in the same order, for every pattern of a linear symbol and of a Data Matrix.
+// What the writers wrote, read back by plain readers of their formats, are the strokes of the
+// library: the same marks in the same order, for every pattern of a linear symbol and of a Data
+// Matrix.
 #include <gtest/gtest.h>
 
 #include <cmath>
@@ -19,14 +20,13 @@ namespace preview {
 
 namespace {
 
-Drawing DrawingOfPattern(Kind kind, std::int32_t pattern) {
+Drawing DrawingOfPattern(std::int32_t symbology, std::int32_t pattern) {
   Request request;
-  request.kind = kind;
+  request.symbology = symbology;
   request.text = "A-1";
   request.pattern = pattern;
   request.gap = 0.31;
-  const Fill fill = Generate(request);
-  return DrawingOf(*fill, WidthOf(request, *fill), request.height, "A-1 \xC3\xA4;\n<&");
+  return DrawingOf(*ResultOf(request), "A-1 \xC3\xA4;\n<&");
 }
 
 std::vector<std::string> Lines(const std::string& text) {
@@ -187,7 +187,7 @@ void ExpectSame(const std::vector<Stroke>& read, const std::vector<Stroke>& mark
 constexpr Look kLook = {1.5, 0.3, Part::kLight, StrokeEnds::kFlush};
 constexpr double kNanometre = 1e-6;
 
-class Writers : public ::testing::TestWithParam<std::tuple<Kind, std::int32_t>> {
+class Writers : public ::testing::TestWithParam<std::tuple<std::int32_t, std::int32_t>> {
  protected:
   Drawing drawing_ = DrawingOfPattern(std::get<0>(GetParam()), std::get<1>(GetParam()));
   bool HasPoints() const { return drawing_.kind == MarkKind::kPoints; }
@@ -247,13 +247,14 @@ TEST_P(Writers, AnimatedSvgIsTheSamePictureInMarkingOrder) {
   EXPECT_EQ(svg.find(" opacity"), std::string::npos);
 }
 
-std::string CaseName(const ::testing::TestParamInfo<std::tuple<Kind, std::int32_t>>& info) {
-  const char* const kind = std::get<0>(info.param) == Kind::kLinear ? "Linear" : "Matrix";
+std::string CaseName(const ::testing::TestParamInfo<std::tuple<std::int32_t, std::int32_t>>& info) {
+  const char* const kind = std::get<0>(info.param) == BARHATCH_CODE_39 ? "Linear" : "Matrix";
   return kind + std::to_string(std::get<1>(info.param));
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryPattern, Writers,
-                         ::testing::Combine(::testing::Values(Kind::kLinear, Kind::kDataMatrix),
+                         ::testing::Combine(::testing::Values(BARHATCH_CODE_39,
+                                                              BARHATCH_DATA_MATRIX),
                                             ::testing::Values(0, 1, 2, 3, 5, 6)),
                          CaseName);
 

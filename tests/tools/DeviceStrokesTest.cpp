@@ -1,0 +1,125 @@
+// What --device shows is what the device marks: the strokes are those of the exports of barhatch.h,
+// to the last bit, for every type, pattern and choice of the command line.
+#include <gtest/gtest.h>
+
+#include <cstring>
+#include <string>
+
+#include "Request.h"
+#include "barhatch.h"
+
+namespace preview {
+
+namespace {
+
+constexpr const char* kTexts[] = {
+    "A12-34B",           "AZ/1%%*",       "CODE $93",         "950110153100",
+    "1234567",           "Part 12345",    "AB\x7F",           "Abc-123",
+    "12345678",          "03600029145",   "1425261",          "1234567890",
+    "9638507",           "0360002914512", "0360002914552495", "97713845240112",
+    "97808777993054321", "963850712",     "963850752495",     "042526112",
+    "042526152495",      "12345",         "Code 93\xC2\x80!",
+};
+
+std::basic_string<BarhatchChar> UnitsOf(const std::string& utf8) {
+  std::basic_string<BarhatchChar> units;
+  for (const char c : utf8) {
+    if (c != '\xC2') units += static_cast<unsigned char>(c);  // of U+0080 to U+00BF
+  }
+  return units;
+}
+
+FillBufferInfo* GenerateLinear(const Request& request) {
+  const std::basic_string<BarhatchChar> units = UnitsOf(request.text);
+  LinearBarcodeInfo info{};
+  info.height = request.height;
+  info.width = request.width;
+  info.type = request.symbology;
+  info.DataString = units.c_str();
+  info.HatchingType = request.pattern;
+  info.LineGap = request.gap;
+  info.InvertImage = request.invert ? 1 : 0;
+  info.PrintRatio = request.ratio;
+  info.QuietZone = request.quietZone ? 1 : 0;
+  return GenerateLinearBarcode(&info);
+}
+
+FillBufferInfo* GenerateMatrix(const Request& request) {
+  const std::basic_string<BarhatchChar> units = UnitsOf(request.text);
+  DataMatrixBarcodeInfo info{};
+  info.height = request.height;
+  info.format = request.format;
+  info.DataString = units.c_str();
+  info.HatchingType = request.pattern;
+  info.LineGap = request.gap;
+  info.InvertImage = request.invert ? 1 : 0;
+  info.MatrixSize = request.rows * 256 + request.columns;
+  info.IsExpanding = request.expand || request.rows == 0 ? 1 : 0;
+  info.QuietZone = request.quietZone ? 1 : 0;
+  return GenerateDataMatrixBarcode(&info);
+}
+
+void ExpectStrokesOfTheExports(const Request& request) {
+  const Result result = ResultOf(request);
+  InitBarcode();
+  FillBufferInfo* const fill =
+      IsMatrix(request) ? GenerateMatrix(request) : GenerateLinear(request);
+  ASSERT_EQ(fill != nullptr, result->status == BARHATCH_OK) << result->message;
+  if (fill == nullptr) return;
+  const std::size_t doubles = result->kind == BARHATCH_DOTS ? 2 : 4;
+  ASSERT_EQ(static_cast<std::size_t>(fill->BufferLength), result->strokes_count * doubles);
+  const std::size_t bytes = static_cast<std::size_t>(fill->BufferLength) * sizeof(double);
+  EXPECT_EQ(std::memcmp(fill->FilledArray, result->strokes, bytes), 0);
+  FreeBarcodeData(fill);
+}
+
+// Every pattern, with and without quiet zone, dark and light.
+void ExpectStrokesOfEveryPattern(Request request) {
+  request.device = true;
+  for (const std::int32_t pattern : {0, 1, 2, 3, 5, 6}) {
+    for (const int choice : {0, 1, 2, 3}) {
+      SCOPED_TRACE(request.text + ": pattern " + std::to_string(pattern) + ", choice " +
+                   std::to_string(choice));
+      request.pattern = pattern;
+      request.invert = (choice & 1) != 0;
+      request.quietZone = (choice & 2) != 0;
+      ExpectStrokesOfTheExports(request);
+    }
+  }
+}
+
+}  // namespace
+
+TEST(DeviceStrokes, OfEveryLinearTypeAreThoseOfTheExports) {
+  for (std::int32_t type = 0; type < 23; ++type) {
+    Request request;
+    request.symbology = type;
+    request.text = kTexts[type];
+    request.ratio = type % 2 == 0 ? 3.0 : 2.5;
+    request.gap = 0.37;
+    ExpectStrokesOfEveryPattern(request);
+  }
+}
+
+TEST(DeviceStrokes, OfDataMatrixAreThoseOfTheExports) {
+  struct Size {
+    std::int32_t rows, columns;
+    bool expand;
+  };
+  for (const Size& size : {Size{0, 0, false}, Size{16, 48, false}, Size{24, 24, true},
+                           Size{10, 10, true}, Size{10, 10, false}, Size{12, 36, false}}) {
+    for (std::int32_t format = 0; format < 4; ++format) {
+      Request request;
+      request.symbology = BARHATCH_DATA_MATRIX;
+      request.text = "RECTANGLE 12X36";
+      request.rows = size.rows;
+      request.columns = size.columns;
+      request.expand = size.expand;
+      request.format = format;
+      request.gap = 0.37;
+      ExpectStrokesOfEveryPattern(request);
+    }
+  }
+}
+
+}  // namespace preview
