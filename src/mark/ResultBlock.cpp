@@ -73,10 +73,11 @@ class BlockWriter {
  public:
   BlockWriter(void* block, std::size_t offset) : next_(static_cast<char*>(block) + offset) {}
 
-  char* Take(std::size_t bytes) {
-    char* const part = next_;
-    next_ += bytes;
-    return part;
+  template <typename T>
+  T* Take(std::size_t count) {
+    void* const part = next_;
+    next_ += count * sizeof(T);
+    return static_cast<T*>(part);
   }
 
  private:
@@ -86,25 +87,25 @@ class BlockWriter {
 void WriteParts(const BlockParts& parts, const BarhatchJob& job, const MarkedSymbol& symbol,
                 DeviationSet met, BlockWriter block, BarhatchResult& result) {
   if (parts.modules != 0) {
-    auto* const modules = reinterpret_cast<std::uint8_t*>(block.Take(parts.modules));
+    auto* const modules = block.Take<std::uint8_t>(parts.modules);
     WriteModules(symbol, modules);
     result.modules = modules;
   }
   if (parts.values != 0) {
-    auto* const values = reinterpret_cast<std::uint8_t*>(block.Take(parts.values));
+    auto* const values = block.Take<std::uint8_t>(parts.values);
     std::memcpy(values, symbol.values, parts.values);
     result.values = values;
     result.values_count = parts.values;
   }
   if (parts.reading != 0) {
-    char* const reading = block.Take(parts.reading);
+    char* const reading = block.Take<char>(parts.reading);
     std::memcpy(reading, symbol.reading, parts.reading);
     result.reading = reading;
     result.reading_length = symbol.readingLength;
     if (!IsMatrix(job)) result.hri = reading;
   }
   if (parts.deviations != 0) {
-    char* const text = block.Take(parts.deviations);
+    char* const text = block.Take<char>(parts.deviations);
     WriteDeviationText(met, text);
     result.deviations_met = text;
   }
@@ -125,7 +126,7 @@ Refusal FinishBlock(const BarhatchJob& job, const MarkedSymbol& symbol, Deviatio
   result.block = block;
 
   BlockWriter writer(block, kHeadBytes);
-  auto* const room = reinterpret_cast<double*>(writer.Take(parts.doubles * sizeof(double)));
+  auto* const room = writer.Take<double>(parts.doubles);
   WriteParts(parts, job, symbol, met, writer, result);
   return strokes != nullptr ? strokes->Write(room, parts.doubles, result) : Refusal{};
 }
