@@ -76,6 +76,10 @@ def left_out(text):
 # Mutants that no test can tell from the original: file, what the line says, what it says then, the reason.
 EQUIVALENT = (
     ("EanUpcElements.cpp", "(count - i) % 2", "(count + i) % 2", "a sum and a difference are odd together"),
+    ("Interleaved2of5.cpp", "digits.length - 1 - i", "digits.length - 1 + i", "a sum and a difference are odd together"),
+    ("Interleaved2of5.cpp", "digits.length - 1 - i", "digits.length + 1 - i", "two apart are odd together"),
+    ("Code128Reader.cpp", "value > kCode128SwitchToC", "value >= kCode128SwitchToC", "that switch is taken one line above"),
+    ("Code128Reader.cpp", "length < kStopModules", "length <= kStopModules", "a stop alone has too few values"),
     *(("Code93Characters.cpp", f"{name} < kCode93CheckModulus", f"{name} <= kCode93CheckModulus",
        "one row more is that of start/stop, which nobody looks up by name") for name in ("value", "shift")),
     ("Msi.cpp", "digit - 10 + 1", "digit + 10 + 1", "two tens more change no check digit"),

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <optional>
 #include <random>
 #include <string>
@@ -13,6 +14,7 @@
 #include "support/SeededTexts.h"
 #include "symbologies/DrawnSymbol.h"
 #include "symbologies/ReportedReading.h"
+#include "symbologies/SymbologyReaders.h"
 #include "symbologies/SymbologyTable.h"
 
 namespace barhatch {
@@ -155,6 +157,20 @@ TEST_P(OfEveryType, CutSymbolsAreJudgedAsByThePlainReader) {
     const std::string back = letters.substr(letters.size() - length);
     ASSERT_EQ(Report(type, front).text, PlainReading(type, front)) << length;
     ASSERT_EQ(Report(type, back).text, PlainReading(type, back)) << length;
+  }
+}
+
+TEST_P(OfEveryType, WhatStandsBehindTheLettersIsNotRead) {
+  const std::int32_t type = GetParam();
+  const std::string letters = *test::DrawnByTheDevice(type, PublishedTexts(type).Next());
+  std::vector<char> text(letters.size() + 1);
+  std::vector<std::uint8_t> values(letters.size());
+  for (std::size_t length = 0; length < letters.size(); ++length) {
+    SymbolReading reading = {text.data(), 0, values.data(), 0};
+    const bool isRead = ReadSymbol(type, letters.data(), length, reading);
+    const auto alone = Report(type, letters.substr(0, length));
+    ASSERT_EQ(isRead, alone.text.has_value()) << length;
+    ASSERT_EQ(reading.valuesCount, alone.values.size()) << length;
   }
 }
 

@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <string>
 #include <utility>
 
 #include "symbologies/DrawnSymbol.h"
+#include "symbologies/SymbologyTable.h"
 
 namespace barhatch {
 namespace {
@@ -151,6 +153,15 @@ TEST(TextRules, BytesInFrontAreMetApartFromThoseBehindACharacter) {
   EXPECT_EQ(met("\x80"
                 "A\x81"),
             Only({Deviation::kD93_2, Deviation::kD93_3}).Bits());
+}
+
+TEST(TextRules, OnlyWhatBelongsToTheTextMakesAPercentPair) {
+  char room[] = "%%";
+  std::size_t length = 1;
+  Conformance how = Conformance::Device();
+  EXPECT_FALSE(CheckText(kSymbologies[kCode39].text, room, length, how).IsRefused());
+  EXPECT_EQ(length, 1u);
+  EXPECT_EQ(how.Met().Bits(), 0u);
 }
 
 }  // namespace
