@@ -35,6 +35,9 @@ constexpr int ElementBits(const char* letters, std::size_t count) {
   return bits;
 }
 
+static_assert(ModuleBits("AaA", 3) == 5 && ModuleBits("AbA", 3) == kNoRow, "");
+static_assert(ElementBits("AbA", 3) == 2 && ElementBits("BaC", 3) == kNoRow, "");
+
 // The rows of at most 128 by their first kCount letters, which no two of them share.
 template <std::size_t kCount, int (*kBitsOf)(const char*, std::size_t)>
 class PatternRows {

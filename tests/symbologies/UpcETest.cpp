@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <random>
 #include <string>
 
@@ -74,6 +75,35 @@ TEST(UpcE, CheckDigitIsThatOfThePlainExpansionForEveryLastDigitInBothSystems) {
         EXPECT_EQ(reading->digits, upcE + check);
       }
     }
+  }
+}
+
+// The zero suppression of the standard, rule by rule. n: number system, five digits of the
+// manufacturer, five of the product.
+std::string Suppressed(const std::string& n) {
+  const std::string product = n.substr(6);
+  if (n[3] <= '2' && n.substr(4, 2) == "00" && product.substr(0, 2) == "00") {
+    return n.substr(1, 2) + product.substr(2) + n[3];
+  }
+  if (n.substr(4, 2) == "00" && product.substr(0, 3) == "000") {
+    return n.substr(1, 3) + product.substr(3) + '3';
+  }
+  if (n[5] == '0' && product.substr(0, 4) == "0000") return n.substr(1, 4) + product[4] + '4';
+  return n.substr(1, 5) + product[4];
+}
+
+// Digits on both sides of every limit, and all last ones.
+TEST(UpcE, ByTheBookSixDigitsAreThoseThatSuppressionGives) {
+  const std::string some = "0239";
+  for (int i = 0; i < 10 << 10; ++i) {
+    std::string text = "0";
+    for (int place = 1; place < 1 << 10; place <<= 2) {
+      text += some[static_cast<std::size_t>(i / 10 / place % 4)];
+    }
+    text += static_cast<char>('0' + i % 10);
+    Conformance how = Conformance::Published();
+    const Refusal refusal = CheckUpcEForm({text.data(), text.size()}, how);
+    ASSERT_EQ(refusal.IsRefused(), Suppressed(Expanded(text)) != text.substr(1)) << text;
   }
 }
 
