@@ -158,6 +158,14 @@ TEST_F(Allocation, RefusedCallsAllocateNothingThatStays) {
   EXPECT_EQ(probe.LiveBlocks(), 0u);
 }
 
+TEST_F(Allocation, AReleasedGridTakesItsModulesWithIt) {
+  for (const auto release : {Free2DBarcodeStringResult, FreePdf417BarcodeStringResult}) {
+    AllocationProbe probe;
+    release(new TwoDStringResult{2, 2, new char[4]});
+    EXPECT_EQ(probe.LiveBlocks(), 0u);
+  }
+}
+
 TEST_F(Allocation, AFillTakesThreeAllocationsAndLittleMoreThanItsOwnSize) {
   AllocationProbe probe;
   FillBufferInfo* fill = HatchBarcodeString("AaBbAaBaAbA");

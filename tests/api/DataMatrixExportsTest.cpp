@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <cstring>
 #include <limits>
 #include <string>
@@ -174,6 +175,17 @@ TEST_F(DataMatrixExports, EveryRefusalIsNullAndLeavesTheRecordInForce) {
     EXPECT_EQ(s.IsExpanding, refusal.isExpanding);
     EXPECT_EQ(s.FillHeight, -77.0);  // nothing was hatched
     EXPECT_EQ(s.FillWidth, -77.0);
+  }
+}
+
+TEST_F(DataMatrixExports, AFormatThatNamesNothingAddsNothing) {
+  const OwnedFill plain = Generate();
+  using Limits = std::numeric_limits<std::int32_t>;
+  for (const std::int32_t format : {4, 5, -1, Limits::min(), Limits::max()}) {
+    info_.format = format;
+    const OwnedFill fill = Generate();
+    ASSERT_TRUE(fill) << format;
+    EXPECT_EQ(Doubles(*fill), Doubles(*plain)) << format;
   }
 }
 
