@@ -132,6 +132,8 @@ EQUIVALENT = (
     ("Hatcher.cpp", "mostDoubles <= 0", "mostDoubles < 0", "a list of nothing makes no fill either"),
     ("LinePatterns.cpp", "strokes > kMostDoubles", "strokes >= kMostDoubles", "so many are refused with their coordinates"),
     ("SpiralPattern.cpp", "lower = lowEdge", "", "every bound is 0.0 from the start"),
+    ("GrowableArray.h", "if (capacity_ - count_ < items", "if (capacity_ - count_ <= items",
+     "behind it the same is tested again"),
     ("GrowableArray.h", "capacity > static_cast", "capacity >= static_cast", "nobody has so much memory"),
     *(("ApiTrace.cpp", "value = 0.0", f"value = {other}", "written before it is read")
       for other in ("-1.0", "1.0")),
