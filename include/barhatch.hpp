@@ -314,9 +314,10 @@ class Result {
   explicit operator bool() const noexcept { return record_.status == BARHATCH_OK; }
   // Why there is no mark.
   Status status() const noexcept { return static_cast<Status>(record_.status); }
-  // A sentence about the refusal or, of a mark, its first warning; empty where there is neither.
+  // A sentence about the refusal or, of a mark, its gravest warning; empty where there is neither.
   // Valid until the result moves.
-  std::string_view message() const noexcept { return record_.message; }
+  std::string_view message() const& noexcept { return record_.message; }
+  std::string_view message() const&& = delete;  // of a result that nobody keeps
   std::int32_t position() const noexcept { return record_.position; }  // from 1, in the text; or 0
   std::int32_t extent() const noexcept { return record_.extent; }      // bytes or units there
 
@@ -362,12 +363,14 @@ class Result {
   Lines DeviationLines() const& noexcept { return Lines(ViewOf(record_.deviations_met)); }
   Lines DeviationLines() const&& = delete;
   // The bytes that a standard reader reports; none where it reads nothing.
-  std::optional<std::string_view> Reading() const noexcept {
+  std::optional<std::string_view> Reading() const&& = delete;
+  std::optional<std::string_view> Reading() const& noexcept {
     if (record_.reading == nullptr) return std::nullopt;
     return std::string_view(record_.reading, record_.reading_length);
   }
   // Text for people, to stand beside a linear symbol.
-  std::optional<std::string_view> Hri() const noexcept {
+  std::optional<std::string_view> Hri() const&& = delete;
+  std::optional<std::string_view> Hri() const& noexcept {
     if (record_.hri == nullptr) return std::nullopt;
     return std::string_view(record_.hri);
   }

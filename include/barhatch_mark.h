@@ -31,7 +31,7 @@
  * device marks of all 23 types and Data Matrix.
  *
  * The records grow at their end in later versions: fields are never moved, numbers never used again. A record smaller than
- * the first version's is refused, of a larger one the bytes that this version does not know must be zero.
+ * the first version's is refused; of a larger job the bytes that this version does not know must be zero.
  *
  * The header is C90, C99, C++98 and C++17. */
 #ifndef BARHATCH_MARK_H
@@ -205,7 +205,7 @@ typedef struct BarhatchJob {
   double jump_delay;       /* seconds for each jump */
   double radius;           /* 0 in this version */
   double tolerance;        /* 0 in this version */
-  void* (*allocate)(void* context, size_t bytes);  /* both or neither; neither: malloc and free */
+  void* (*allocate)(void* context, size_t bytes);  /* aligned for doubles and pointers; both or neither: malloc and free */
   void (*release)(void* context, void* block);     /* of what allocate gave */
   void* context;           /* handed to both */
   void* reserved;          /* null */
@@ -232,7 +232,7 @@ enum BarhatchStatus {
   BARHATCH_PROOF_FAILED = 16  /* not in this version */
 };
 
-/* result.warnings: bits; message has the sentence of the first one */
+/* result.warnings: bits; message has the sentence of the gravest one */
 enum BarhatchWarning {
   BARHATCH_W_LEADING_ZERO = 1,    /* an odd number of digits of Interleaved 2 of 5 got a 0 in front */
   BARHATCH_W_FEW_DIGITS = 2,      /* fewer than 6 digits of Interleaved 2 of 5: readers may not accept them */
@@ -242,7 +242,7 @@ enum BarhatchWarning {
   BARHATCH_W_INVERTED = 32,       /* light elements are filled, but no quiet zone */
   BARHATCH_W_LOW_BYTE = 64,       /* of a character above 255 the low byte alone is written, as the device does */
   BARHATCH_W_UNREADABLE = 128,    /* a standard reader reads something else than the text, or nothing */
-  BARHATCH_W_GAP = 256            /* the gap is wider than the narrowest element: it may get no stroke */
+  BARHATCH_W_GAP = 256            /* wide for the narrowest element: strokes may miss it, those of a spiral leave it */
 };
 
 /* result.kind */
@@ -269,13 +269,13 @@ typedef struct BarhatchResult {
   int32_t columns;           /* modules of a row, or elements of a linear symbol, without quiet zone */
   int32_t codewords;         /* of a Data Matrix: data codewords of the text, pads not among them */
   int32_t capacity;          /* of a Data Matrix: data codewords that the symbol holds */
-  char message[160];         /* a sentence; with status 0 that of the first warning, or empty */
+  char message[160];         /* a sentence; with status 0 that of the gravest warning, or empty */
   size_t strokes_count;      /* segments or dots */
   const double* strokes;     /* in marking order */
   const uint8_t* modules;    /* rows x columns of BarhatchModule, row by row from the top */
   const uint8_t* values;     /* codewords with pads and error correction, or symbol character values */
   size_t values_count;       /* of values */
-  const char* hri;           /* text for people, to stand beside a linear symbol; null where there is none */
+  const char* hri;           /* reading, to stand beside a linear symbol; null where there is none */
   const char* reading;       /* the bytes that a standard reader reports, with a NUL behind them; null: it reads nothing */
   size_t reading_length;     /* bytes of reading without that NUL */
   const char* name;          /* of the symbology; also with a refusal, null where it is unknown */

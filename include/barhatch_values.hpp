@@ -138,7 +138,7 @@ enum class Status : std::int32_t {
   kBadAiData = BARHATCH_BAD_AI_DATA,          // not in this version
   kTooLong = BARHATCH_TOO_LONG,               // for the symbol
   kNoSuchSize = BARHATCH_NO_SUCH_SIZE,        // rows x columns is no size of a Data Matrix
-  kNotStandard = BARHATCH_NOT_STANDARD,       // Flag::kPermit allows it
+  kNotStandard = BARHATCH_NOT_STANDARD,       // Flag::kPermit allows most of it
   kBadGeometry = BARHATCH_BAD_GEOMETRY,       // sizes, gap or speeds that make no sense
   kNothingToMark = BARHATCH_NOTHING_TO_MARK,  // no stroke lies in any element
   kNoMemory = BARHATCH_NO_MEMORY,             // nothing is leaked
@@ -155,7 +155,7 @@ enum class Warning : std::uint32_t {
   kInverted = BARHATCH_W_INVERTED,         // light elements are marked, but no quiet zone
   kLowByte = BARHATCH_W_LOW_BYTE,          // of a character above 255 the low byte is written
   kUnreadable = BARHATCH_W_UNREADABLE,     // a standard reader reads something else, or nothing
-  kGap = BARHATCH_W_GAP                    // the gap is wider than the narrowest element
+  kGap = BARHATCH_W_GAP                    // the gap is wide for the narrowest element
 };
 
 // Several values of Flag, Want or Warning.

@@ -1,10 +1,9 @@
 // The parameters of the next barcode: one block for the whole process, written by the exports, read
-// by the encoders and the hatcher at the moment of a generating call. Nobody locks it; hosts
-// serialise their calls.
+// by the encoders and the hatcher of this room at the moment of a generating call. Nobody locks it;
+// hosts serialise their calls.
 //
 // The block lives in zero-initialised storage: until the host calls InitBarcode every field is
-// zero. This header is a leaf: it includes nothing of ours, so that every room may read the
-// settings from its sources.
+// zero. It is the business of this room alone: what lies below gets values.
 #ifndef BARHATCH_API_BARCODESETTINGS_H
 #define BARHATCH_API_BARCODESETTINGS_H
 

@@ -5,9 +5,9 @@
 
 #include <cstdint>
 
+#include "api/Symbology.h"
 #include "barhatch.h"
 #include "mark/Mark.h"
-#include "api/Symbology.h"
 
 namespace barhatch {
 

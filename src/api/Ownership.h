@@ -1,9 +1,11 @@
 // What the library gives away and how it comes back. Every array is released in the form it was
-// allocated in; nothing else in the library allocates for the host.
+// allocated in; nothing else allocates for the
+// hosts of these exports. (What a result of the mark interface points to lies in one block of its
+// own, see mark/ResultBlock.h.)
 //
 //   given to the host   allocated in                     as                    released by
 //   -----------------   ------------------------------   -------------------   --------------------
-//   module string       ModuleStringBuilder              new char[]            the host's delete[]
+//   module string       SymbolWriter                     new char[]            the host's delete[]
 //   FillBufferInfo      NewFillBuffer                    new FillBufferInfo    FreeBarcodeData
 //   its FilledArray     Hatcher, by RuntimeMemory        operator new[]        FreeBarcodeData
 //

@@ -3,8 +3,8 @@
 #include "api/ApiTrace.h"
 #include "api/BarcodeSettings.h"
 #include "api/DataText.h"
-#include "barhatch.h"
 #include "api/SymbologyFactory.h"
+#include "barhatch.h"
 
 using barhatch::CurrentSettings;
 

@@ -9,6 +9,7 @@ namespace barhatch {
 
 namespace {
 
+constexpr int kStandardQuietModules = 1;
 constexpr int kMacro05Codeword = 236;
 constexpr int kMacro06Codeword = 237;
 
@@ -16,11 +17,6 @@ Refusal CheckJob(const MatrixJob& job) {
   if (job.quietModules > kMostQuietModules) return {Reason::kOption, -1, job.quietModules};
   if (job.text.length <= kMaxDataMatrixText) return {};
   return {Reason::kLength, -1, static_cast<std::int32_t>(job.text.length)};
-}
-
-int QuietModules(std::int32_t requested) {
-  if (requested == kStandardQuietZone) return 1;
-  return requested < 0 ? 0 : static_cast<int>(requested);
 }
 
 void AppendMacroHeader(Header header, CodewordBuffer& codewords) {
@@ -53,7 +49,7 @@ Refusal EncodeStages(const MatrixJob& job, Conformance& how, const Memory& memor
   codewords.PadTo(symbol.size.dataCodewords);
   AddErrorCorrection(symbol.size, how, codewords.data());
 
-  symbol.quietModules = QuietModules(job.quietModules);
+  symbol.quietModules = QuietZoneOf(job.quietModules, kStandardQuietModules);
   return Draw(memory, symbol);
 }
 

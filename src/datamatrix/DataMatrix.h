@@ -37,8 +37,8 @@ struct MatrixSymbol {
 };
 
 // The symbol of the job: its text (up to 255 data, above an ECI designator), header, size, border.
-// `how` says which deviations are in force, whatever the job's own set is, and then which of them
-// the symbol has met. The letters are from `memory`, the caller releases them there.
+// `how` says which deviations are in force, and then which of them the symbol has met. The letters
+// are from `memory`, the caller releases them there.
 //
 // Refused, with no letters and nothing met, `figure` being the codewords of the text where no other
 // figure is named:

@@ -27,6 +27,12 @@ struct Characters {
 constexpr std::int32_t kNoQuietZone = -1;
 constexpr std::int32_t kStandardQuietZone = 0;  // those that the symbology asks for
 
+// How many they are on a side where the standard asks for so many.
+constexpr int QuietZoneOf(std::int32_t asked, int standard) {
+  if (asked == kNoQuietZone) return 0;
+  return asked == kStandardQuietZone ? standard : asked;
+}
+
 // Size of a Data Matrix that is asked for. isExpanding: 0 forbids the symbol to grow beyond rows
 // and columns, every other value allows it, but only 1 lets a rectangle become a square.
 struct SizeRequest {

@@ -2,6 +2,7 @@
 #ifndef BARHATCH_JOB_REFUSAL_H
 #define BARHATCH_JOB_REFUSAL_H
 
+#include <cstddef>
 #include <cstdint>
 
 namespace barhatch {
@@ -13,6 +14,8 @@ enum class Reason : std::uint8_t {
   kNoUtf8,              // position: of a byte that belongs to no character
   kCharacter,           // position: of a character that the symbology lacks; figure: its code
   kLength,              // figure: the characters there are
+  kEndInside,           // position: of a start or stop character between others
+  kNumberSystem,        // position: of a number system that there is none
   kNoStart,             // position: where a start character should stand
   kNoStop,              // position: where a stop character should stand
   kNotStandard,         // a symbol that the standard leaves out
@@ -26,6 +29,11 @@ enum class Reason : std::uint8_t {
   kTooManyStrokes,  // more than a fill may have
   kNoMemory,
 };
+
+// A count as a figure; beyond the largest figure it stays there.
+constexpr std::int32_t FigureOf(std::size_t count) {
+  return count < 0x7FFFFFFF ? static_cast<std::int32_t>(count) : 0x7FFFFFFF;
+}
 
 struct Refusal {
   Reason reason = Reason::kNone;

@@ -12,14 +12,6 @@ constexpr double kMostExtent = 1e150;  // whose square still is a number
 
 bool IsQuietInside(const BarhatchJob& job) { return (job.flags & BARHATCH_QUIET_INSIDE) != 0; }
 
-bool HasWideElements(const BarhatchJob& job, const MarkedSymbol& symbol) {
-  if (IsMatrix(job)) return false;
-  for (const char* letter = symbol.letters; *letter != '\0'; ++letter) {
-    if (*letter == kWideBar || *letter == kWideSpace) return true;
-  }
-  return false;
-}
-
 // Of the drawn symbol, in modules.
 double DrawnWidth(const BarhatchJob& job, const MarkedSymbol& symbol) {
   return IsMatrix(job) ? symbol.columns : ModuleCount(symbol.letters, RatioOf(job));
@@ -45,6 +37,13 @@ double ModuleSizeOf(const BarhatchJob& job, const MarkedSymbol& symbol) {
 
 }  // namespace
 
+bool HasWideElements(const MarkedSymbol& symbol) {
+  for (const char* letter = symbol.letters; *letter != '\0'; ++letter) {
+    if (*letter == kWideBar || *letter == kWideSpace) return true;
+  }
+  return false;
+}
+
 Extents ExtentsOf(const BarhatchJob& job, const MarkedSymbol& symbol) {
   const double module = ModuleSizeOf(job, symbol);
   Extents extents = {module, RatioOf(job) * module, job.height, 0.0, 0.0};
@@ -62,7 +61,7 @@ void DescribeExtents(const BarhatchJob& job, const MarkedSymbol& symbol, const E
   const double height = IsMatrix(job) ? InnerRows(symbol) * module : job.height;
   result.x_dimension = module;
   result.narrowest =
-      HasWideElements(job, symbol) && extents.wideSize < module ? extents.wideSize : module;
+      HasWideElements(symbol) && extents.wideSize < module ? extents.wideSize : module;
   result.symbol[0] = IsQuietInside(job) ? quiet.left * module : 0.0;
   result.symbol[1] = IsQuietInside(job) ? quiet.below * module : 0.0;
   result.symbol[2] = result.symbol[0] + InnerWidth(job, symbol) * module;

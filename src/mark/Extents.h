@@ -16,6 +16,9 @@ struct Extents {
   double shiftY;
 };
 
+// True for a linear symbol of two widths that has a wide element.
+bool HasWideElements(const MarkedSymbol& symbol);
+
 // REQUIRES: checked geometry that has a size.
 Extents ExtentsOf(const BarhatchJob& job, const MarkedSymbol& symbol);
 

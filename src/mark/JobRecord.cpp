@@ -174,11 +174,15 @@ std::int32_t CheckPointers(const BarhatchJob& job, Message& message) {
   return BARHATCH_OK;
 }
 
-// One of the sizes says how wide a module is: a second one could only contradict it.
+// Sizes that say how wide a module is.
+int SizesOfModule(const BarhatchJob& job) {
+  return (job.x_dimension != 0.0 ? 1 : 0) + (job.width != 0.0 ? 1 : 0) +
+         (IsMatrix(job) && job.height != 0.0 ? 1 : 0);
+}
+
+// One of them is needed: a second one could only contradict it.
 std::int32_t CheckSizes(const BarhatchJob& job, Message& message) {
-  const int sizes = (job.x_dimension != 0.0 ? 1 : 0) + (job.width != 0.0 ? 1 : 0) +
-                    (IsMatrix(job) && job.height != 0.0 ? 1 : 0);
-  if (sizes != 1) {
+  if (SizesOfModule(job) != 1) {
     return Refuse(BARHATCH_BAD_GEOMETRY,
                   IsMatrix(job) ? "set one of x_dimension, width and height"
                                 : "set x_dimension or width, and not both",
@@ -239,7 +243,7 @@ std::int32_t CheckGeometry(const BarhatchJob& job, Message message) {
   if (Wants(job, BARHATCH_WANT_STROKES) && job.gap == 0.0 && job.pattern != BARHATCH_POINTS) {
     return Refuse(BARHATCH_BAD_GEOMETRY, "gap must be finite and above 0", message);
   }
-  return HasSize(job) ? CheckSizes(job, message) : BARHATCH_OK;
+  return Wants(job, BARHATCH_WANT_STROKES) ? CheckSizes(job, message) : BARHATCH_OK;
 }
 
 bool IsMatrix(const BarhatchJob& job) { return job.symbology == BARHATCH_DATA_MATRIX; }
@@ -249,8 +253,7 @@ bool Wants(const BarhatchJob& job, BarhatchWant what) {
 }
 
 bool HasSize(const BarhatchJob& job) {
-  return Wants(job, BARHATCH_WANT_STROKES) || job.x_dimension != 0.0 || job.width != 0.0 ||
-         job.height != 0.0;
+  return SizesOfModule(job) == 1 && (IsMatrix(job) || job.height != 0.0);
 }
 
 DeviationSet InForce(const BarhatchJob& job) {

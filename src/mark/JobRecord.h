@@ -21,7 +21,7 @@ std::int32_t CheckGeometry(const BarhatchJob& job, Message message);
 // Of checked jobs.
 bool IsMatrix(const BarhatchJob& job);
 bool Wants(const BarhatchJob& job, BarhatchWant what);
-bool HasSize(const BarhatchJob& job);  // or wants strokes, which need one
+bool HasSize(const BarhatchJob& job);  // a whole one; a job that wants strokes has it
 DeviationSet InForce(const BarhatchJob& job);
 std::int32_t QuietModulesOf(const BarhatchJob& job);
 double RatioOf(const BarhatchJob& job);

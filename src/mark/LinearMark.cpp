@@ -24,7 +24,7 @@ Refusal Narrow(const char16_t* units, std::size_t count, bool isDevice, char* by
   for (length = 0; length < count; ++length) {
     const char16_t unit = units[length];
     if (isDevice ? unit == 0 : unit > 255) return RefusedUnit(length, unit);
-    if (unit > 255) warnings |= BARHATCH_W_LOW_BYTE;
+    if (unit > 255) warnings |= BARHATCH_W_LOW_BYTE | BARHATCH_W_UNREADABLE;
     bytes[length] = static_cast<char>(unit & 0xFF);
     if (isDevice && bytes[length] == '\0') break;
   }
@@ -38,10 +38,9 @@ QuietSides StandardQuiet(const BarhatchJob& job) {
 }
 
 QuietSides QuietOf(const BarhatchJob& job) {
-  const std::int32_t modules = QuietModulesOf(job);
-  if (modules == kNoQuietZone) return {};
-  if (modules == kStandardQuietZone) return StandardQuiet(job);
-  return {modules, modules, 0, 0};
+  const std::int32_t asked = QuietModulesOf(job);
+  const QuietSides standard = StandardQuiet(job);
+  return {QuietZoneOf(asked, standard.left), QuietZoneOf(asked, standard.right), 0, 0};
 }
 
 void WarnOfDigits(std::size_t digits, std::uint32_t& warnings) {
@@ -71,7 +70,7 @@ Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const Charac
 
 Refusal MakeLinearSymbol(const BarhatchJob& job, const InputText& text, std::size_t units,
                          Conformance& how, MarkedSymbol& symbol) {
-  if (units > kLongestLinearText) return {Reason::kLength, -1, static_cast<std::int32_t>(units)};
+  if (units > kLongestLinearText) return {Reason::kLength, -1, FigureOf(units)};
   const Block<char16_t> given(symbol.memory, units + 1);
   const Block<char> bytes(symbol.memory, units + 1);
   const Block<char> checked(symbol.memory, units + 1);  // a check may shorten the text

@@ -4,16 +4,6 @@
 
 namespace barhatch {
 
-namespace {
-
-QuietModules QuietOf(const SymbologyRow& row, std::int32_t modules) {
-  if (modules == kNoQuietZone) return {0, 0};
-  if (modules == kStandardQuietZone) return {row.quietLeft, row.quietRight};
-  return {modules, modules};
-}
-
-}  // namespace
-
 Refusal DrawLinear(const LinearJob& job, std::size_t usualCapacity, const Memory& memory,
                    Conformance& how, LinearSymbol& symbol) {
   const SymbologyRow& row = kSymbologies[job.symbology];
@@ -21,7 +11,8 @@ Refusal DrawLinear(const LinearJob& job, std::size_t usualCapacity, const Memory
   const Refusal refusal = CheckText(row.text, job.text, length, how);
   if (refusal.IsRefused()) return refusal;
 
-  const QuietModules quiet = QuietOf(row, job.quietModules);
+  const QuietModules quiet = {QuietZoneOf(job.quietModules, row.quietLeft),
+                              QuietZoneOf(job.quietModules, row.quietRight)};
   SymbolWriter out(memory, usualCapacity, quiet);
   row.encode({job.text, length}, row.variant, how, out);
   symbol = {out.Release(), out.Length(), quiet.left, quiet.right};

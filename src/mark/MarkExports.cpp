@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "barhatch_mark.h"
-#include "hatch/Hatch.h"
+#include "mark/Extents.h"
 #include "mark/JobRecord.h"
 #include "mark/MarkedSymbol.h"
 #include "mark/Names.h"
@@ -27,18 +27,36 @@ void ClearResult(BarhatchResult& result) {
   result.size = size;
 }
 
-void SetPlace(const TextPlace& place, BarhatchResult& result) {
-  result.position = static_cast<std::int32_t>(place.begin + 1);
-  result.extent = static_cast<std::int32_t>(place.extent);
+// A refusal has a place and names, and nothing of a symbol that was begun.
+void KeepRefusal(BarhatchResult& result) {
+  const BarhatchResult begun = result;
+  ClearResult(result);
+  result.position = begun.position;
+  result.extent = begun.extent;
+  result.name = begun.name;
+  result.accepts = begun.accepts;
 }
 
-// Strokes a gap apart may miss an element that is narrower. Horizontal strokes of a linear symbol
-// go through all bars.
-bool MayMissElements(const BarhatchJob& job, const BarhatchResult& result) {
+void SetPlace(const TextPlace& place, BarhatchResult& result) {
+  result.position = FigureOf(place.begin + 1);
+  result.extent = FigureOf(place.extent);
+}
+
+// Strokes a gap apart may miss an element that is narrower, and a spiral whose gap is more than
+// half of it leaves it. Horizontal strokes of a linear symbol go through all bars.
+bool IsGapWide(const BarhatchJob& job, const BarhatchResult& result) {
   const bool isHorizontal =
       job.pattern == BARHATCH_SCAN_LINES || job.pattern == BARHATCH_ALTERNATING_HORIZONTAL;
   if (job.pattern == BARHATCH_POINTS || (isHorizontal && !IsMatrix(job))) return false;
-  return result.narrowest > 0.0 && job.gap > result.narrowest;
+  const double most = job.pattern == BARHATCH_SPIRAL ? result.narrowest / 2 : result.narrowest;
+  return result.narrowest > 0.0 && job.gap > most;
+}
+
+// Points are no bars, and elements as wide as others are not told from them.
+bool LosesElements(const BarhatchJob& job, const MarkedSymbol& symbol) {
+  if (IsMatrix(job)) return false;
+  if (Wants(job, BARHATCH_WANT_STROKES) && job.pattern == BARHATCH_POINTS) return true;
+  return RatioOf(job) <= 1.0 && HasWideElements(symbol);
 }
 
 // The six digits of UPC-E are refused together, any other character alone.
@@ -77,9 +95,10 @@ Refusal MakeMark(const BarhatchJob& job, BarhatchResult& result) {
   if (refusal.IsRefused()) return refusal;
   refusal = FinishResult(job, symbol, how.Met(), result);
   result.warnings = symbol.warnings;
-  if (Wants(job, BARHATCH_WANT_STROKES) && MayMissElements(job, result)) {
+  if (Wants(job, BARHATCH_WANT_STROKES) && IsGapWide(job, result)) {
     result.warnings |= BARHATCH_W_GAP;
   }
+  if (LosesElements(job, symbol)) result.warnings |= BARHATCH_W_UNREADABLE;
   return refusal;
 }
 
@@ -97,6 +116,7 @@ std::int32_t MarkJob(const BarhatchJob* record, BarhatchResult& result) {
   const Refusal refusal = MakeMark(job, result);
   if (refusal.IsRefused()) {
     ReleaseBlock(result);
+    KeepRefusal(result);
     SayRefusal(job, refusal, result.position, Message(result.message));
   } else {
     SayWarning(result.warnings, Message(result.message));
@@ -111,7 +131,8 @@ std::int32_t MarkJob(const BarhatchJob* record, BarhatchResult& result) {
 extern "C" {
 
 int32_t BarhatchMark(const BarhatchJob* job, BarhatchResult* result) {
-  if (result == nullptr || result->size < sizeof *result) return BARHATCH_BAD_RECORD;
+  if (result == nullptr) return BARHATCH_BAD_RECORD;
+  if (result->size < sizeof *result) return result->status = BARHATCH_BAD_RECORD;
   barhatch::ClearResult(*result);
   result->status = barhatch::MarkJob(job, *result);
   return result->status;

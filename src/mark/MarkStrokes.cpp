@@ -1,5 +1,7 @@
 #include "mark/MarkStrokes.h"
 
+#include <limits>
+
 #include "hatch/StrokeLengths.h"
 #include "mark/JobRecord.h"
 
@@ -42,7 +44,8 @@ Refusal MarkStrokes::Write(double* room, std::size_t doubles, BarhatchResult& re
     Translate(room, coordinates.Count(), extents_.shiftX, extents_.shiftY);
   }
   Describe(room, coordinates.Count(), result);
-  return {};
+  const bool isFinite = result.seconds <= std::numeric_limits<double>::max();
+  return {isFinite ? Reason::kNone : Reason::kGeometry, -1, 0};
 }
 
 void MarkStrokes::Describe(const double* strokes, std::size_t doubles,

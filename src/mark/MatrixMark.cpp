@@ -20,12 +20,6 @@ SizeRequest SizeRequestOf(const BarhatchJob& job) {
   return {job.rows, job.columns, mayGrow ? 1 : 0};
 }
 
-int QuietOf(const BarhatchJob& job) {
-  const std::int32_t modules = QuietModulesOf(job);
-  if (modules == kNoQuietZone) return 0;
-  return modules == kStandardQuietZone ? kStandardQuietModules : modules;
-}
-
 QuietSides OnAllSides(int modules) { return {modules, modules, modules, modules}; }
 
 // The device's text has no zeros: they end it.
@@ -33,6 +27,9 @@ Refusal CheckUnits(const TextUnits& text, std::uint32_t& warnings) {
   for (std::size_t i = 0; i < text.length; ++i) {
     if (text.units[i] == 0) return {Reason::kCharacter, static_cast<std::int32_t>(i), 0};
     if (text.units[i] > 255) warnings |= BARHATCH_W_ECI;
+    // Half of a character above U+FFFF: the two designate what nobody meant.
+    const bool isSurrogate = text.units[i] >= 0xD800 && text.units[i] < 0xE000;
+    if (isSurrogate) warnings |= BARHATCH_W_UNREADABLE;
   }
   return {};
 }
@@ -66,7 +63,7 @@ Refusal ReadBack(const MatrixSymbol& matrix, const TextUnits& text, Header heade
 
 Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::size_t units,
                          Conformance& how, MarkedSymbol& symbol, BarhatchResult& result) {
-  if (units > kMaxDataMatrixText) return {Reason::kLength, -1, static_cast<std::int32_t>(units)};
+  if (units > kMaxDataMatrixText) return {Reason::kLength, -1, FigureOf(units)};
   const Block<char16_t> given(symbol.memory, units + 1);
   if (given.get() == nullptr) return {Reason::kNoMemory, -1, 0};
   text.CopyUnits(given.get(), units);
@@ -83,7 +80,7 @@ Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::siz
   symbol.rows = matrix.rows;
   symbol.columns = matrix.columns;
   symbol.drawnQuiet = OnAllSides(matrix.quietModules);
-  symbol.quiet = OnAllSides(QuietOf(job));
+  symbol.quiet = OnAllSides(QuietZoneOf(QuietModulesOf(job), kStandardQuietModules));
   if (symbol.quiet.left < kStandardQuietModules) {
     symbol.warnings |= SmallQuietZoneWarning(job);
   }

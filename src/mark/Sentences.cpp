@@ -21,6 +21,8 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kNoUtf8, BARHATCH_BAD_CHARACTER},
     {Reason::kCharacter, BARHATCH_BAD_CHARACTER},
     {Reason::kLength, BARHATCH_BAD_LENGTH},
+    {Reason::kEndInside, BARHATCH_BAD_CHARACTER},
+    {Reason::kNumberSystem, BARHATCH_BAD_CHARACTER},
     {Reason::kNoStart, BARHATCH_BAD_SYNTAX},
     {Reason::kNoStop, BARHATCH_BAD_SYNTAX},
     {Reason::kNotStandard, BARHATCH_NOT_STANDARD},
@@ -49,16 +51,19 @@ struct WarningSentence {
   const char* sentence;
 };
 
+// The gravest first.
 constexpr WarningSentence kWarnings[] = {
-    {BARHATCH_W_LEADING_ZERO, "a 0 was added in front: Interleaved 2 of 5 writes pairs of digits"},
+    {BARHATCH_W_LOW_BYTE,
+     "of a character above 255 the device writes the low byte alone; one that is 0 ends the text"},
+    {BARHATCH_W_UNREADABLE, "a standard reader reads something else than the text, or nothing"},
+    {BARHATCH_W_INVERTED, "the light elements are marked, but no quiet zone around them"},
+    {BARHATCH_W_GAP,
+     "the gap is wide for the narrowest element: strokes may miss it or lie beside it"},
+    {BARHATCH_W_QUIET_ZONE, "the quiet zone is smaller than the standard's"},
+    {BARHATCH_W_ECI, "a character above 255 is no data here: it designates an ECI"},
     {BARHATCH_W_FEW_DIGITS,
      "fewer than 6 digits of Interleaved 2 of 5: readers may not accept them"},
-    {BARHATCH_W_ECI, "a character above 255 is no data here: it designates an ECI"},
-    {BARHATCH_W_QUIET_ZONE, "the quiet zone is smaller than the standard's"},
-    {BARHATCH_W_INVERTED, "the light elements are marked, but no quiet zone around them"},
-    {BARHATCH_W_LOW_BYTE, "of a character above 255 the device writes the low byte alone"},
-    {BARHATCH_W_UNREADABLE, "a standard reader reads something else than the text, or nothing"},
-    {BARHATCH_W_GAP, "the gap is wider than the narrowest element: it may get no stroke"},
+    {BARHATCH_W_LEADING_ZERO, "a 0 was added in front: Interleaved 2 of 5 writes pairs of digits"},
 };
 
 template <typename Wanted>
@@ -78,7 +83,7 @@ const SymbolSize* SizeOf(const BarhatchJob& job) {
   });
 }
 
-// Of the same family: squares are asked for by squares.
+// Of the same family: a square behind a square, a rectangle behind a rectangle.
 const SymbolSize* NextSize(const BarhatchJob& job) {
   const bool isSquare = job.rows == job.columns;
   return FirstSize([&](const SymbolSize& size) {
@@ -123,9 +128,9 @@ Message& SaySize(int rows, int columns, Message& message) {
 
 void SayTooSmall(const BarhatchJob& job, const Refusal& refusal, Message& message) {
   const SymbolSize* const size = SizeOf(job);
-  message << refusal.figure << " codewords, ";
+  message << refusal.figure << (refusal.figure == 1 ? " codeword, " : " codewords, ");
   if (size == nullptr) {
-    message << "no size of the request holds them";
+    SaySize(job.rows, job.columns, message) << " is no size";
   } else if (size->dataCodewords < refusal.figure) {
     SaySize(job.rows, job.columns, message) << " holds " << size->dataCodewords;
   } else {
@@ -170,6 +175,13 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
       break;
     case Reason::kLength:
       SayLength(job, name, refusal.figure, message);
+      break;
+    case Reason::kEndInside:
+      message << "character " << place << " (";
+      message.Code(refusal.figure) << ") starts or stops " << name.name << ": not inside";
+      break;
+    case Reason::kNumberSystem:
+      message << "number system " << refusal.figure - '0' << " at " << place << " is none: 0 and 1";
       break;
     case Reason::kNoStart:
       message << "start character missing at " << place;

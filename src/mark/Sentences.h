@@ -18,7 +18,7 @@ std::int32_t StatusOf(Reason reason);
 void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
                 Message message);
 
-// The sentence of the lowest warning; nothing where there is none.
+// The sentence of the gravest warning; nothing where there is none.
 void SayWarning(std::uint32_t warnings, Message message);
 
 }  // namespace barhatch

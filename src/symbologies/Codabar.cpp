@@ -90,17 +90,18 @@ Refusal CheckCodabarForm(const Characters& text, Conformance& how) {
   for (std::size_t i = 1; i < last; ++i) {
     const char character = text.text[i];
     if (IsStartStop(character)) {
-      return {Reason::kCharacter, static_cast<std::int32_t>(i),
+      return {Reason::kEndInside, static_cast<std::int32_t>(i),
               static_cast<unsigned char>(character)};
     }
   }
   const bool starts = IsStartStop(text.text[0]);
   const bool stops = last > 0 && IsStartStop(text.text[last]);
-  if (starts && stops) {
-    if (text.length > 2 || how.Deviates(Deviation::kDCB_3)) return {};
-    return {Reason::kLength, -1, static_cast<std::int32_t>(text.length)};
-  }
-  if (how.Deviates(starts || stops ? Deviation::kDCB_2 : Deviation::kDCB_1)) return {};
+  if (starts && stops && text.length > 2) return {};
+  const Deviation by = starts && stops   ? Deviation::kDCB_3
+                       : starts || stops ? Deviation::kDCB_2
+                                         : Deviation::kDCB_1;
+  if (how.Deviates(by)) return {};
+  if (text.length < 3) return {Reason::kLength, -1, static_cast<std::int32_t>(text.length)};
   return starts ? Refusal{Reason::kNoStop, static_cast<std::int32_t>(last), 0}
                 : Refusal{Reason::kNoStart, 0, 0};
 }

@@ -1,6 +1,7 @@
-// Code 128 (ISO/IEC 15417): four policies of choosing start character and code sets over one
-// pipeline of text -> symbol values -> modules. Characters of 32 to 127 are accepted; the check
-// character is added; function characters and the shift are never written.
+// Code 128 (ISO/IEC 15417) as the device writes it: four policies of choosing start character and
+// code sets over one pipeline of text -> symbol values -> modules. Characters of 32 to 127 are
+// accepted; the check character is added; function characters and the shift are never written. By
+// the book the same types are the shortest symbols, see Code128Shortest.h.
 //
 //   type  policy    "1234A" becomes
 //   5     kAuto     105 12 34 33          C and B by runs of digits (here D-128-1, see below)

@@ -26,8 +26,8 @@ struct Costs {
 
 constexpr int kStartValues[] = {kCode128StartA, kCode128StartB, kCode128StartC};
 constexpr int kSwitchValues[] = {kCode128SwitchToA, kCode128SwitchToB, kCode128SwitchToC};
-// FNC4 has the value of the switch to the own set.
-constexpr int kFnc4Values[] = {kCode128SwitchToA, kCode128SwitchToB};
+// FNC4 has the value of the switch to the own set; C has none.
+constexpr int kFnc4Values[] = {kCode128SwitchToA, kCode128SwitchToB, 0};
 constexpr int kSetsByPreference[] = {kB, kA, kC};
 
 int LowBits(char character) { return static_cast<unsigned char>(character) & 0x7F; }

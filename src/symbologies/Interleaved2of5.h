@@ -8,7 +8,7 @@
 // Deliberate deviations, kept because marked parts and hosts depend on them (ids in
 // docs/deviations.md):
 //   D-25-1  the check digit's weight 3 is bound to the leftmost digit instead of the rightmost; no
-//           symbol is touched, since the class never asks for the check digit
+//           symbol is touched, since no type asks for the check digit
 //   D-25-2  the empty text is accepted and gives start and stop alone
 #ifndef BARHATCH_SYMBOLOGIES_INTERLEAVED2OF5_H
 #define BARHATCH_SYMBOLOGIES_INTERLEAVED2OF5_H

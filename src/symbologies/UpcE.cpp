@@ -51,7 +51,7 @@ int UpcECheckDigit(const char* upcE) {
 
 Refusal CheckUpcEForm(const Characters& text, Conformance& how) {
   const char system = text.text[0];
-  if (system > '1') return {Reason::kCharacter, 0, static_cast<unsigned char>(system)};
+  if (system > '1') return {Reason::kNumberSystem, 0, static_cast<unsigned char>(system)};
   if (system == '1' && !how.Deviates(Deviation::kDEAN_3)) return {Reason::kNotStandard, 0, 0};
   if (IsSuppressedForm(text.text + 1) || how.Deviates(Deviation::kDEAN_4)) return {};
   return {Reason::kNotStandard, 1, 0};

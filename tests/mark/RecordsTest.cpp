@@ -85,13 +85,14 @@ TEST(MarkRecords, NullIsNoResult) {
   EXPECT_EQ(BarhatchMark(nullptr, nullptr), BARHATCH_BAD_RECORD);
 }
 
-TEST(MarkRecords, OfAResultThatIsTooSmallAreNotWritten) {
+TEST(MarkRecords, AResultThatIsTooSmallGetsItsStatusAlone) {
   const BarhatchJob job = PlainJobOf(BARHATCH_CODE_39);
   BarhatchResult result;
   std::memset(&result, 0x5A, sizeof result);
   for (const std::uint32_t size : {0u, 8u, static_cast<std::uint32_t>(sizeof result - 1)}) {
     result.size = size;
-    const BarhatchResult before = result;
+    BarhatchResult before = result;
+    before.status = BARHATCH_BAD_RECORD;
     EXPECT_EQ(BarhatchMark(&job, &result), BARHATCH_BAD_RECORD);
     EXPECT_EQ(std::memcmp(&result, &before, sizeof result), 0);
   }

@@ -58,9 +58,7 @@ TEST(Refusals, CharactersThatASymbologyLacks) {
       {0, "A12x4B",
        "4 at 4+1: character 4 (0x78 'x') is not in Codabar: digits and - $ : / . + between two of "
        "A B C D T N * E"},
-      {0, "A1B2C",
-       "4 at 3+1: character 3 (0x42 'B') is not in Codabar: digits and - $ : / . + between two of "
-       "A B C D T N * E"},
+      {0, "A1B2C", "4 at 3+1: character 3 (0x42 'B') starts or stops Codabar: not inside"},
       {1, "ABCDe",
        "4 at 5+1: character 5 (0x65 'e') is not in Code 39: digits, A-Z, - . $ / + % and space"},
       {1, "A*B",
@@ -70,8 +68,7 @@ TEST(Refusals, CharactersThatASymbologyLacks) {
       {3, "95011015310x", "4 at 12+1: character 12 (0x78 'x') is not in EAN-13: 12 digits"},
       {4, "-", "4 at 1+1: character 1 (0x2D '-') is not in MSI: digits"},
       {9, "0123456789 ", "4 at 11+1: character 11 (0x20) is not in UPC-A: 11 digits"},
-      {10, "2123456",
-       "4 at 1+1: character 1 (0x32 '2') is not in UPC-E: 7 digits: number system and six"},
+      {10, "2123456", "4 at 1+1: number system 2 at 1 is none: 0 and 1"},
       {10, "012345a",
        "4 at 7+1: character 7 (0x61 'a') is not in UPC-E: 7 digits: number system and six"},
       {11, "12+3", "4 at 3+1: character 3 (0x2B '+') is not in Code 11: digits and -"},
@@ -204,7 +201,9 @@ TEST(Refusals, StartAndStopCharactersThatAreMissing) {
   EXPECT_EQ(Published(0, "123B"), "7 at 1+1: start character missing at 1");
   EXPECT_EQ(Published(0, "A123"), "7 at 4+1: stop character missing at 4");
   EXPECT_EQ(Published(0, "123"), "7 at 1+1: start character missing at 1");
-  EXPECT_EQ(Published(0, "A"), "7 at 1+1: stop character missing at 1");
+  EXPECT_EQ(Published(0, "A"),
+            "5 at 0+0: Codabar takes digits and - $ : / . + between two of A B C D T N * E, 1 "
+            "given");
 }
 
 TEST(Refusals, TextsOfMoreCodewordsThanThereAre) {
@@ -219,8 +218,7 @@ TEST(Refusals, TextsOfMoreCodewordsThanTheSizeHas) {
             "10 at 0+0: 47 codewords, 26x26 holds 44; MAY_GROW allows a larger one");
   EXPECT_TRUE(Mark(MatrixOf(digits.c_str(), 26, 26, BARHATCH_MAY_GROW)).IsOk());
   EXPECT_EQ(Refused(MatrixOf(digits.c_str(), 11, 11)),
-            "10 at 0+0: 47 codewords, no size of the request holds them; MAY_GROW allows a larger "
-            "one");
+            "10 at 0+0: 47 codewords, 11x11 is no size; MAY_GROW allows a larger one");
 }
 
 // Where growing does not help either nobody is sent there.

@@ -86,8 +86,10 @@ TEST(Warnings, InvertedWithASmallQuietZoneIsASmallQuietZone) {
 
 TEST(Warnings, LowByteOfAUnit) {
   const Mark mark(JobOf(BARHATCH_CODE_39, "A\xC5\x81"));  // U+0141, low byte 'A'
-  EXPECT_EQ(mark->warnings, BARHATCH_W_LOW_BYTE);
-  EXPECT_EQ(mark.Message(), "of a character above 255 the device writes the low byte alone");
+  EXPECT_EQ(mark->warnings, BARHATCH_W_LOW_BYTE | BARHATCH_W_UNREADABLE);
+  EXPECT_EQ(mark.Message(),
+            "of a character above 255 the device writes the low byte alone; one that is 0 ends the "
+            "text");
 }
 
 TEST(Warnings, UnreadableSymbols) {
@@ -101,7 +103,8 @@ TEST(Warnings, GapWiderThanTheNarrowestElement) {
   BarhatchJob job = PublishedJobOf(BARHATCH_CODE_39, "A1");
   job.pattern = BARHATCH_VERTICAL_LINES;
   job.gap = 1.5;
-  EXPECT_EQ(Said(job), "256 the gap is wider than the narrowest element: it may get no stroke");
+  EXPECT_EQ(Said(job),
+            "256 the gap is wide for the narrowest element: strokes may miss it or lie beside it");
   job.gap = 1.0;
   EXPECT_EQ(WarningsOf(job), 0u);
   job.gap = 1.5;
@@ -109,12 +112,17 @@ TEST(Warnings, GapWiderThanTheNarrowestElement) {
     job.pattern = pattern;
     EXPECT_EQ(WarningsOf(job), BARHATCH_W_GAP) << pattern;
   }
-  for (const std::int32_t pattern :
-       {BARHATCH_SCAN_LINES, BARHATCH_ALTERNATING_HORIZONTAL, BARHATCH_POINTS}) {
+  for (const std::int32_t pattern : {BARHATCH_SCAN_LINES, BARHATCH_ALTERNATING_HORIZONTAL}) {
     job.pattern = pattern;
     EXPECT_EQ(WarningsOf(job), 0u) << "horizontal strokes go through all bars, " << pattern;
   }
+  job.pattern = BARHATCH_SPIRAL;
+  job.gap = 0.5;
+  EXPECT_EQ(WarningsOf(job), 0u);
+  job.gap = 0.6;
+  EXPECT_EQ(WarningsOf(job), BARHATCH_W_GAP) << "a spiral leaves what is narrower than two gaps";
   job.pattern = BARHATCH_VERTICAL_LINES;
+  job.gap = 1.5;
   job.want = BARHATCH_WANT_MODULES;
   EXPECT_EQ(WarningsOf(job), 0u) << "no strokes are wanted";
 }
@@ -130,11 +138,34 @@ TEST(Warnings, GapWiderThanAModuleOfAMatrixByAnyLines) {
   EXPECT_EQ(WarningsOf(job) & BARHATCH_W_GAP, 0u);
 }
 
-TEST(Warnings, AddUpAndTheFirstIsSaid) {
+TEST(Warnings, PointsAreNoBars) {
+  BarhatchJob job = PublishedJobOf(BARHATCH_CODE_39, "A1");
+  job.pattern = BARHATCH_POINTS;
+  EXPECT_EQ(WarningsOf(job), BARHATCH_W_UNREADABLE);
+}
+
+TEST(Warnings, WideElementsAsNarrowAsOthersAreNotToldFromThem) {
+  BarhatchJob job = PublishedJobOf(BARHATCH_CODE_39, "A1");
+  job.ratio = 1.0;
+  EXPECT_EQ(WarningsOf(job), BARHATCH_W_UNREADABLE);
+  job.ratio = 2.0;
+  EXPECT_EQ(WarningsOf(job), 0u);
+  job = PublishedJobOf(BARHATCH_CODE_93, "A1");  // single modules
+  job.ratio = 1.0;
+  EXPECT_EQ(WarningsOf(job), 0u);
+}
+
+TEST(Warnings, HalvesOfACharacterDesignateWhatNobodyMeant) {
+  const Mark mark(JobOf(BARHATCH_DATA_MATRIX, "a\xF0\x9F\x98\x80"));
+  EXPECT_EQ(mark->warnings, BARHATCH_W_ECI | BARHATCH_W_UNREADABLE);
+}
+
+TEST(Warnings, AddUpAndTheGravestIsSaid) {
   BarhatchJob job = WithQuiet(PublishedJobOf(21, "123"), 5.0);
   job.pattern = BARHATCH_VERTICAL_LINES;
   job.gap = 1.5;
-  EXPECT_EQ(Said(job), "275 a 0 was added in front: Interleaved 2 of 5 writes pairs of digits");
+  EXPECT_EQ(Said(job),
+            "275 the gap is wide for the narrowest element: strokes may miss it or lie beside it");
 }
 
 }  // namespace barhatch::test

@@ -49,10 +49,10 @@ constexpr int kFullAscii93 = 22;
 
 // By the book and by the device.
 const RefusedText kAlwaysRefused[] = {
-    {kCodabar, "A1B2C", Reason::kCharacter, 2, 'B'},
-    {kCodabar, "AB1C", Reason::kCharacter, 1, 'B'},
-    {kCodabar, "A1BC", Reason::kCharacter, 2, 'B'},
-    {kCodabar, "1E1", Reason::kCharacter, 1, 'E'},
+    {kCodabar, "A1B2C", Reason::kEndInside, 2, 'B'},
+    {kCodabar, "AB1C", Reason::kEndInside, 1, 'B'},
+    {kCodabar, "A1BC", Reason::kEndInside, 2, 'B'},
+    {kCodabar, "1E1", Reason::kEndInside, 1, 'E'},
     {kCodabar, "A1x2C", Reason::kCharacter, 2, 'x'},
     {kCodabar, "", Reason::kEmpty, -1, 0},
     {kCode39, "Ax", Reason::kCharacter, 1, 'x'},
@@ -65,7 +65,7 @@ const RefusedText kAlwaysRefused[] = {
     {kMsi, "12-", Reason::kCharacter, 2, '-'},
     {kCode128, "ab\x1F", Reason::kCharacter, 2, 0x1F},
     {kCode128, "\x80", Reason::kCharacter, 0, 0x80},
-    {kUpcE, "2123456", Reason::kCharacter, 0, '2'},
+    {kUpcE, "2123456", Reason::kNumberSystem, 0, '2'},
     {kUpcE, "012345", Reason::kLength, -1, 6},
     {kUpcE, "01234567", Reason::kLength, -1, 8},
     {kCode11, "1+", Reason::kCharacter, 1, '+'},
@@ -85,10 +85,10 @@ struct DeviatingText {
 
 const DeviatingText kTakenByTheDevice[] = {
     {{kCodabar, "123", Reason::kNoStart, 0, 0}, Deviation::kDCB_1},
-    {{kCodabar, "1", Reason::kNoStart, 0, 0}, Deviation::kDCB_1},
+    {{kCodabar, "1", Reason::kLength, -1, 1}, Deviation::kDCB_1},
     {{kCodabar, "12A", Reason::kNoStart, 0, 0}, Deviation::kDCB_2},
     {{kCodabar, "A123", Reason::kNoStop, 3, 0}, Deviation::kDCB_2},
-    {{kCodabar, "A", Reason::kNoStop, 0, 0}, Deviation::kDCB_2},
+    {{kCodabar, "A", Reason::kLength, -1, 1}, Deviation::kDCB_2},
     {{kCodabar, "AB", Reason::kLength, -1, 2}, Deviation::kDCB_3},
     {{kCode39, "", Reason::kEmpty, -1, 0}, Deviation::kD39_6},
     {{kCode39, "AB*C", Reason::kCharacter, 2, '*'}, Deviation::kD39_4},
