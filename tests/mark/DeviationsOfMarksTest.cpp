@@ -193,7 +193,8 @@ TEST(DeviationsOfMarks, HaveATextForEveryRowThatATextCanTouch) {
 // By the book each of them is refused, or read as it was given and none is met.
 TEST(DeviationsOfMarks, AreNoneByTheBook) {
   for (const Row& row : kLinearRows) {
-    BarhatchJob job = LongJobOf(row.symbology, row.text, BARHATCH_PUBLISHED);
+    const std::string text = row.text;
+    BarhatchJob job = LongJobOf(row.symbology, text, BARHATCH_PUBLISHED);
     job.input = BARHATCH_BYTES;
     const Mark mark(job);
     if (!mark.IsOk()) continue;
@@ -204,7 +205,8 @@ TEST(DeviationsOfMarks, AreNoneByTheBook) {
 
 TEST(DeviationsOfMarks, ThatAreMetAreWhyAReaderReadsSomethingElse) {
   for (const Row& row : kLinearRows) {
-    BarhatchJob job = LongJobOf(row.symbology, row.text);
+    const std::string text = row.text;
+    BarhatchJob job = LongJobOf(row.symbology, text);
     job.input = BARHATCH_BYTES;
     const Mark mark(job);
     const bool isReadable = (mark->warnings & BARHATCH_W_UNREADABLE) == 0;
