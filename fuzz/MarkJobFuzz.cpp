@@ -254,8 +254,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   std::memset(&result, 0x5A, sizeof result);
   result.size = sizeof result;
   const CallWatch watch;
-  const std::int32_t status =
-      BarhatchMark(reinterpret_cast<const BarhatchJob*>(record.data()), &result);
+  const std::int32_t status = BarhatchMark(
+      static_cast<const BarhatchJob*>(static_cast<const void*>(record.data())), &result);
   watch.DemandWithin(kMostBytes + kOwnBytes);
   Demand(status == result.status, "the status is returned");
   Demand((memory.Live() != 0) == (status == BARHATCH_OK), "a mark keeps a block, a refusal none");

@@ -25,7 +25,7 @@ std::string StatusOf(const std::vector<unsigned char>& record) {
   std::memcpy(room, record.data(), record.size());
   BarhatchResult result = {};
   result.size = sizeof result;
-  BarhatchMark(reinterpret_cast<const BarhatchJob*>(room), &result);
+  BarhatchMark(static_cast<const BarhatchJob*>(static_cast<const void*>(room)), &result);
   BarhatchRelease(&result);
   return std::to_string(result.status) + " " + result.message;
 }

@@ -56,6 +56,7 @@ BarhatchJob RandomJob(std::mt19937& random, std::int32_t symbology, const std::s
   const bool isDevice = isToCome || random() % 4 == 0;
   BarhatchJob job = LongJobOf(symbology, text, isDevice ? BARHATCH_DEVICE : BARHATCH_PUBLISHED);
   job.input = random() % 4 == 0 ? BARHATCH_BYTES : BARHATCH_UTF8;
+  job.want = BARHATCH_WANT_VALIDATION;
   return job;
 }
 
