@@ -41,6 +41,7 @@ constexpr int kCode93 = 2;
 constexpr int kEan13 = 3;
 constexpr int kMsi = 4;
 constexpr int kCode128 = 5;
+constexpr int kCode128SetB = 7;
 constexpr int kUpcE = 10;
 constexpr int kCode11 = 11;
 constexpr int kEan8Addon2 = 17;
@@ -63,8 +64,8 @@ const RefusedText kAlwaysRefused[] = {
     {kEan13, "1234567890123", Reason::kLength, -1, 13},
     {kEan13, "", Reason::kEmpty, -1, 0},
     {kMsi, "12-", Reason::kCharacter, 2, '-'},
-    {kCode128, "ab\x1F", Reason::kCharacter, 2, 0x1F},
-    {kCode128, "\x80", Reason::kCharacter, 0, 0x80},
+    {kCode128SetB, "ab\x1F", Reason::kCharacter, 2, 0x1F},
+    {kCode128SetB, "\x80", Reason::kCharacter, 0, 0x80},
     {kUpcE, "2123456", Reason::kNumberSystem, 0, '2'},
     {kUpcE, "012345", Reason::kLength, -1, 6},
     {kUpcE, "01234567", Reason::kLength, -1, 8},
@@ -75,6 +76,15 @@ TEST(TextRules, WhatNobodyTakesIsRefusedWithItsPlace) {
   for (const RefusedText& row : kAlwaysRefused) {
     ExpectRefused(row, DeviationSet());
     ExpectRefused(row, DeviationSet::All());
+  }
+}
+
+// The device's plan of code sets lacks what takes a shift or FNC4.
+TEST(TextRules, ControlCharactersAndBytesOfCode128AreTakenByTheBookAlone) {
+  for (const RefusedText& row : {RefusedText{kCode128, "ab\x1F", Reason::kCharacter, 2, 0x1F},
+                                 RefusedText{kCode128, "\x80", Reason::kCharacter, 0, 0x80}}) {
+    ExpectRefused(row, DeviationSet::All());
+    EXPECT_TRUE(test::DrawnByTheBook(row.type, row.text)) << row.text;
   }
 }
 
