@@ -29,7 +29,7 @@ constexpr std::int32_t kStandardQuietZone = 0;  // those that the symbology asks
 
 // How many they are on a side where the standard asks for so many.
 constexpr int QuietZoneOf(std::int32_t asked, int standard) {
-  if (asked == kNoQuietZone) return 0;
+  if (asked < 0) return 0;
   return asked == kStandardQuietZone ? standard : asked;
 }
 
