@@ -86,7 +86,7 @@ class BatchRun {
     if (options_.verify) VerifyLine(line, symbol);
     if (options_.sheet) {
       widest_ = std::max(widest_, symbol.drawing.width);
-      smallestModule_ = std::min(smallestModule_, symbol.result->x_dimension);
+      smallestModule_ = std::min(smallestModule_, symbol.result.xDimension());
       drawings_.push_back(std::move(symbol.drawing));
     } else {
       WriteLine(line, symbol);
@@ -102,7 +102,7 @@ class BatchRun {
   void WriteLine(const BatchLine& line, const Symbol& symbol) {
     for (const std::string& pattern : options_.outputs) {
       const std::string path = PathOf(pattern, line);
-      const Look look = LookOf(options_, symbol.drawing.width, symbol.result->x_dimension);
+      const Look look = LookOf(options_, symbol.drawing.width, symbol.result.xDimension());
       const auto [other, isNew] = written_.emplace(path, line.number);
       const std::string reason =
           isNew ? WriteOutput(path, symbol.drawing, look, options_)

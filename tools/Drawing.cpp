@@ -45,20 +45,18 @@ void Place(const Drawing& part, double x, double y, Drawing& sheet) {
 
 }  // namespace
 
-Drawing DrawingOf(const BarhatchResult& result, std::string title) {
+Drawing DrawingOf(const barhatch::Result& result, std::string title) {
   Drawing drawing;
-  drawing.kind = result.kind == BARHATCH_DOTS ? MarkKind::kPoints : MarkKind::kStrokes;
+  drawing.kind = result.IsPoints() ? MarkKind::kPoints : MarkKind::kStrokes;
   // The origin is the corner of what the size was asked for.
-  const bool isQuietInside = result.total[0] >= 0.0;
-  drawing.width = isQuietInside ? result.total[2] : result.symbol[2];
-  drawing.height = isQuietInside ? result.total[3] : result.symbol[3];
+  const bool isQuietInside = result.total().left >= 0.0;
+  drawing.width = isQuietInside ? result.total().right : result.symbol().right;
+  drawing.height = isQuietInside ? result.total().top : result.symbol().top;
   drawing.title = std::move(title);
-  const std::size_t doubles = drawing.kind == MarkKind::kPoints ? 2 : 4;
-  drawing.marks.reserve(result.strokes_count);
-  for (std::size_t i = 0; i < result.strokes_count; ++i) {
-    const double* const c = result.strokes + i * doubles;
-    drawing.marks.push_back({c[0], c[1], c[doubles - 2], c[doubles - 1]});
+  for (const barhatch::Segment& s : result.Segments()) {
+    drawing.marks.push_back({s.xa, s.ya, s.xb, s.yb});
   }
+  for (const barhatch::Point& p : result.Points()) drawing.marks.push_back({p.x, p.y, p.x, p.y});
   return drawing;
 }
 

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "barhatch_mark.h"
+#include "barhatch.hpp"
 
 namespace preview {
 
@@ -35,7 +35,7 @@ struct Drawing {
 };
 
 // The drawing is as large as the symbol, with the quiet zone where that is a part of it.
-Drawing DrawingOf(const BarhatchResult& result, std::string title);
+Drawing DrawingOf(const barhatch::Result& result, std::string title);
 
 // All drawings in rows of so many, from the top left corner, their titles as captions below them.
 // REQUIRES: at least one drawing, all of one kind, and at least one column.

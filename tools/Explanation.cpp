@@ -2,7 +2,7 @@
 
 #include <fmt/core.h>
 
-#include <sstream>
+#include <string_view>
 
 #include "Messages.h"
 #include "Symbologies.h"
@@ -12,38 +12,38 @@ namespace preview {
 namespace {
 
 // Each line with two spaces in front.
-std::string Indented(const std::string& text) {
-  std::istringstream lines(text);
+std::string Indented(std::string text) {
+  if (!text.empty() && text.back() != '\n') text += '\n';
   std::string indented;
-  for (std::string line; std::getline(lines, line);) indented += "  " + line + '\n';
+  for (const std::string_view line : barhatch::Lines(text)) indented += fmt::format("  {}\n", line);
   return indented;
 }
 
 std::string RefusalLines(const Symbol& symbol) {
-  const BarhatchResult& result = *symbol.result;
-  std::string lines = fmt::format("refused (status {})\n", result.status);
-  if (result.position > 0) {
-    lines += Indented(Pointed(symbol.request.text, static_cast<std::size_t>(result.position - 1),
-                              static_cast<std::size_t>(result.extent)));
+  const Result& result = symbol.result;
+  std::string lines = fmt::format("refused (status {})\n", static_cast<int>(result.status()));
+  if (result.position() > 0) {
+    lines += Indented(Pointed(symbol.request.text, static_cast<std::size_t>(result.position() - 1),
+                              static_cast<std::size_t>(result.extent())));
   }
-  return lines + Indented(result.message);
+  return lines + Indented(std::string(result.message()));
 }
 
-std::string SymbolLines(const BarhatchResult& result) {
+std::string SymbolLines(const Result& result) {
   std::string lines = "accepted\n";
-  if (result.warnings != 0) lines += Indented("warning: " + WarningText(result));
-  lines += Indented(result.deviations_met);
-  return lines + Indented("a standard reader reads: " + ReadingText(ReadingOf(result)));
+  const std::string warning = WarningText(result);
+  if (!warning.empty()) lines += Indented("warning: " + warning);
+  lines += Indented(std::string(result.DeviationLines().Text()));
+  return lines + Indented("a standard reader reads: " + ReadingText(result));
 }
 
 }  // namespace
 
 std::string ExplanationText(const Symbol& symbol) {
   const Request& request = symbol.request;
-  const bool isMade = symbol.result->status == BARHATCH_OK;
   return fmt::format("{} {}, {}: {}", NameOf(request.symbology), Quoted(request.text),
                      ConformanceName(request),
-                     isMade ? SymbolLines(*symbol.result) : RefusalLines(symbol));
+                     symbol.result ? SymbolLines(symbol.result) : RefusalLines(symbol));
 }
 
 }  // namespace preview

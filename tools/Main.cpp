@@ -35,7 +35,7 @@ int RunOne(const Options& options) {
     if (!isExplained) PrintError(failure->sentence);
     return failure->code;
   }
-  const Look look = LookOf(options, symbol.drawing.width, symbol.result->x_dimension);
+  const Look look = LookOf(options, symbol.drawing.width, symbol.result.xDimension());
   for (const std::string& path : options.outputs) {
     const std::string reason = WriteOutput(path, symbol.drawing, look, options);
     if (reason.empty()) continue;

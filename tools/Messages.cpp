@@ -85,9 +85,10 @@ std::string Pointed(const std::string& text, std::size_t begin, std::size_t exte
   return line + '\n' + marks.substr(0, marks.rfind('^') + 1) + '\n';
 }
 
-std::string WarningText(const BarhatchResult& result) {
-  const std::size_t others = std::bitset<32>(result.warnings).count() - 1;
-  return others == 0 ? result.message : fmt::format("{} (and {} more)", result.message, others);
+std::string WarningText(const barhatch::Result& symbol) {
+  std::string text(symbol.message());
+  const std::size_t count = std::bitset<32>(symbol.warnings().Bits()).count();
+  return count > 1 ? fmt::format("{} (and {} more)", text, count - 1) : text;
 }
 
 }  // namespace preview

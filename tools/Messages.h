@@ -4,7 +4,7 @@
 
 #include <string>
 
-#include "barhatch_mark.h"
+#include "barhatch.hpp"
 
 namespace preview {
 
@@ -28,8 +28,9 @@ std::string Quoted(const std::string& text, std::size_t most = 80);
 // text where it ends there. Of a long text the part around it.
 std::string Pointed(const std::string& text, std::size_t begin, std::size_t extent);
 
-// The library's sentence of the first warning, and how many there are besides.
-std::string WarningText(const BarhatchResult& result);
+// Of a symbol: the library's sentence of the first warning, and how many there are besides; empty
+// where there is none.
+std::string WarningText(const barhatch::Result& symbol);
 
 }  // namespace preview
 

@@ -44,22 +44,9 @@ BarhatchJob JobOf(const Request& request) {
   job.gap = request.gap;
   return job;
 }
-
-Result ResultOf(const BarhatchJob& job) {
-  Result result(new BarhatchResult());
-  result->size = sizeof *result;
-  BarhatchMark(&job, result.get());
-  return result;
-}
-
 }  // namespace
 
-void ResultRelease::operator()(BarhatchResult* result) const {
-  BarhatchRelease(result);
-  delete result;
-}
-
-Result ResultOf(const Request& request) { return ResultOf(JobOf(request)); }
+Result ResultOf(const Request& request) { return Result(JobOf(request)); }
 
 Result AnswerOf(std::int32_t symbology, std::int32_t conformance) {
   BarhatchJob job = {};
@@ -67,15 +54,18 @@ Result AnswerOf(std::int32_t symbology, std::int32_t conformance) {
   job.symbology = symbology;
   job.conformance = conformance;
   job.want = BARHATCH_WANT_VALIDATION;
-  return ResultOf(job);
+  return Result(job);
+}
+
+bool IsWritten(std::int32_t symbology, std::int32_t conformance) {
+  return AnswerOf(symbology, conformance).status() != barhatch::Status::kBadOption;
 }
 
 bool IsMatrix(const Request& request) { return request.symbology == BARHATCH_DATA_MATRIX; }
 
 std::int32_t ConformanceOf(const Request& request) {
-  const bool isInThisVersion =
-      AnswerOf(request.symbology, BARHATCH_PUBLISHED)->status != BARHATCH_BAD_OPTION;
-  return isInThisVersion && !request.device ? BARHATCH_PUBLISHED : BARHATCH_DEVICE;
+  const bool isByTheBook = !request.device && IsWritten(request.symbology, BARHATCH_PUBLISHED);
+  return isByTheBook ? BARHATCH_PUBLISHED : BARHATCH_DEVICE;
 }
 
 const char* ConformanceName(const Request& request) {

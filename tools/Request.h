@@ -4,10 +4,9 @@
 #define BARHATCH_TOOLS_REQUEST_H
 
 #include <cstdint>
-#include <memory>
 #include <string>
 
-#include "barhatch_mark.h"
+#include "barhatch.hpp"
 
 namespace preview {
 
@@ -29,21 +28,20 @@ struct Request {
   std::int32_t format = 0;  // of a Data Matrix: 1 FNC1 in second position, 2 and 3 macro headers
 };
 
-struct ResultRelease {
-  void operator()(BarhatchResult* result) const;
-};
-using Result = std::unique_ptr<BarhatchResult, ResultRelease>;
+using barhatch::Result;
 
-// Never null; refused where its status says so.
+// A mark or a refusal.
 Result ResultOf(const Request& request);
 
-// What the library says of a symbology before there is a text: its name, what it accepts, and with
-// BARHATCH_BAD_OPTION that it does not write such marks in this version.
+// What the library says of a symbology before there is a text: its name and what it accepts.
 Result AnswerOf(std::int32_t symbology, std::int32_t conformance);
+
+// True where this version makes such marks.
+bool IsWritten(std::int32_t symbology, std::int32_t conformance);
 
 bool IsMatrix(const Request& request);
 
-// By the book where the library can and the user does not want the device's.
+// By the book where this version can and the user does not want the device's.
 std::int32_t ConformanceOf(const Request& request);
 
 // "by the book" or "as the device writes it".

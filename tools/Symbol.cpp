@@ -16,21 +16,22 @@ namespace {
 std::string SizeFact(const Symbol& symbol) {
   std::string size = fmt::format("{:.6g} x {:.6g} mm", symbol.drawing.width, symbol.drawing.height);
   if (IsMatrix(symbol.request)) {
-    size += fmt::format(", {} x {} modules", symbol.result->rows, symbol.result->columns);
+    size += fmt::format(", {} x {} modules", symbol.result.rows(), symbol.result.columns());
   }
   return size;
 }
 
 std::string QuietZoneFact(const Symbol& symbol) {
-  const BarhatchResult& result = *symbol.result;
+  const barhatch::Rect inner = symbol.result.symbol();
+  const barhatch::Rect outer = symbol.result.total();
   const char* const where = symbol.request.quietZone ? "inside the size" : "around the symbol";
-  return fmt::format("{:.6g} mm left, {:.6g} mm right, {}", result.symbol[0] - result.total[0],
-                     result.total[2] - result.symbol[2], where);
+  return fmt::format("{:.6g} mm left, {:.6g} mm right, {}", inner.left - outer.left,
+                     outer.right - inner.right, where);
 }
 
-bool HasWideElements(const BarhatchResult& result) {
-  const std::uint8_t* const end = result.modules + result.rows * result.columns;
-  return std::any_of(result.modules, end,
+bool HasWideElements(const Result& result) {
+  const barhatch::ModuleGrid modules = result.Modules();
+  return std::any_of(modules.begin(), modules.end(),
                      [](std::uint8_t module) { return (module & BARHATCH_WIDE) != 0; });
 }
 
@@ -38,7 +39,7 @@ bool HasWideElements(const BarhatchResult& result) {
 // a module is made of whole pixels.
 std::vector<double> ResolutionsToRead(const Symbol& symbol, const Options& options) {
   if (options.pixelsPerUnit > 0.0) return {options.pixelsPerUnit};
-  const double module = symbol.result->x_dimension;
+  const double module = symbol.result.xDimension();
   return {0.0, 6.0 / module, 4.0 / module, 9.0 / module};
 }
 
@@ -46,10 +47,10 @@ Verdict VerifyAt(const Symbol& symbol, const Options& options, double pixelsPerU
   Options resolved = options;
   resolved.pixelsPerUnit = pixelsPerUnit;
   std::string reason;
-  const Look look = LookOf(options, symbol.drawing.width, symbol.result->x_dimension);
+  const Look look = LookOf(options, symbol.drawing.width, symbol.result.xDimension());
   const std::optional<Picture> picture = PictureOf(symbol.drawing, look, resolved, reason);
   if (!picture) return {false, false, reason};
-  return Judge(symbol.request, *symbol.result, ReadBack(*picture));
+  return Judge(symbol.request, symbol.result, ReadBack(*picture));
 }
 
 // What keeps a reader from seeing the symbol in this picture, where the options tell it.
@@ -60,7 +61,7 @@ std::string Advice(const Symbol& symbol, const Options& options) {
   if (symbol.drawing.kind != MarkKind::kPoints) return "";
   if (!IsMatrix(symbol.request)) return "; points are no bars";
   return fmt::format("; points are read with a --beam of about a module, {:.6g}",
-                     symbol.result->x_dimension);
+                     symbol.result.xDimension());
 }
 
 std::string Fact(const char* name, const std::string& value) {
@@ -71,20 +72,18 @@ std::string Fact(const char* name, const std::string& value) {
 
 Symbol MakeSymbol(const Request& request) {
   Symbol symbol = {request, ResultOf(request), {}};
-  if (symbol.result->status == BARHATCH_OK) {
-    symbol.drawing = DrawingOf(*symbol.result, request.text);
-  }
+  if (symbol.result) symbol.drawing = DrawingOf(symbol.result, request.text);
   return symbol;
 }
 
 std::optional<Failure> FailureOf(const Symbol& symbol) {
   const Request& request = symbol.request;
   const char* const name = NameOf(request.symbology);
-  if (symbol.result->status != BARHATCH_OK) {
+  if (!symbol.result) {
     return Failure{kRefused, fmt::format("{} refuses {}: {}", name, Quoted(request.text),
-                                         symbol.result->message)};
+                                         symbol.result.message())};
   }
-  if (request.ratio == 0.0 || HasWideElements(*symbol.result)) return std::nullopt;
+  if (request.ratio == 0.0 || HasWideElements(symbol.result)) return std::nullopt;
   return Failure{kBadArguments, fmt::format("--ratio is for wide elements, and {} has none", name)};
 }
 
@@ -94,17 +93,19 @@ std::string Headline(const Symbol& symbol) {
 }
 
 std::string Facts(const Symbol& symbol, const Speeds& speeds) {
-  const BarhatchResult& result = *symbol.result;
+  const Result& result = symbol.result;
   std::string facts = Fact("size", SizeFact(symbol));
-  facts += Fact("module", fmt::format("{:.6g} mm (X dimension)", result.x_dimension));
+  facts += Fact("module", fmt::format("{:.6g} mm (X dimension)", result.xDimension()));
   facts += Fact("quiet zone", QuietZoneFact(symbol));
   if (IsMatrix(symbol.request)) {
-    facts += Fact("codewords", fmt::format("{} of {}", result.codewords, result.capacity));
+    facts += Fact("codewords", fmt::format("{} of {}", result.codewords(), result.capacity()));
   }
   facts += Report(StatisticsOf(symbol.drawing, speeds), speeds);
-  const std::size_t doubles = symbol.drawing.kind == MarkKind::kPoints ? 2 : 4;
-  facts += Fact("buffer", fmt::format("{} bytes", result.strokes_count * doubles * sizeof(double)));
-  if (result.warnings != 0) facts += Fact("warning", WarningText(result));
+  const std::size_t bytes = result.Segments().size() * sizeof(barhatch::Segment) +
+                            result.Points().size() * sizeof(barhatch::Point);
+  facts += Fact("buffer", fmt::format("{} bytes", bytes));
+  const std::string warning = WarningText(result);
+  if (!warning.empty()) facts += Fact("warning", warning);
   const std::string deviations = DeviationIds(result);
   if (!deviations.empty()) facts += Fact("deviations", deviations + " (--explain tells)");
   return facts;

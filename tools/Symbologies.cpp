@@ -52,16 +52,14 @@ std::string Lowered(std::string text) {
   return text;
 }
 
-const char* IsWritten(std::int32_t symbology, std::int32_t conformance) {
-  return AnswerOf(symbology, conformance)->status == BARHATCH_BAD_OPTION ? "no" : "yes";
-}
-
-// The row's number, name, symbology, conformances and accepted text into the places of a format.
+// The row's number, name, symbology, conformances and accepted text, by the book where it can be
+// written so, into the places of a format.
 std::string Formatted(const char* format, const Symbology& row) {
-  const Result answer = AnswerOf(row.symbology, BARHATCH_DEVICE);
-  return fmt::format(fmt::runtime(format), NumberOf(row), row.name, answer->name,
-                     IsWritten(row.symbology, BARHATCH_PUBLISHED),
-                     IsWritten(row.symbology, BARHATCH_DEVICE), answer->accepts);
+  const bool isByTheBook = IsWritten(row.symbology, BARHATCH_PUBLISHED);
+  const bool isOfTheDevice = IsWritten(row.symbology, BARHATCH_DEVICE);
+  const Result answer = AnswerOf(row.symbology, isByTheBook ? BARHATCH_PUBLISHED : BARHATCH_DEVICE);
+  return fmt::format(fmt::runtime(format), NumberOf(row), row.name, answer.name(),
+                     isByTheBook ? "yes" : "no", isOfTheDevice ? "yes" : "no", answer.accepts());
 }
 
 std::string FormattedRows(const char* format) {

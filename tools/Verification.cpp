@@ -3,7 +3,7 @@
 #include <fmt/core.h>
 
 #include <algorithm>
-#include <sstream>
+#include <string_view>
 
 #include "Messages.h"
 
@@ -14,7 +14,7 @@ namespace {
 constexpr char kFnc1AsRead = '\x1D';
 constexpr std::size_t kMostShown = 4000;
 
-std::string Utf8Of(const std::string& latin1) {
+std::string Utf8Of(std::string_view latin1) {
   std::string utf8;
   for (const char c : latin1) {
     const auto byte = static_cast<unsigned char>(c);
@@ -40,57 +40,50 @@ bool IsKnownToReader(std::int32_t symbology) {
 
 // The reader tells bytes or text, of EAN-13 with a 0 in front UPC-A without the 0, and FNC1 as a
 // character or not at all.
-bool IsAsPromised(const Request& request, const std::string& promised, const Reading& reading) {
+bool IsAsPromised(const Request& request, std::string_view promised, const Reading& reading) {
   if (reading.bytes == promised || reading.text == Utf8Of(promised)) return true;
   if (reading.format == "UPC-A" && "0" + reading.text == promised) return true;
   const bool hasFnc1 = IsMatrix(request) && request.format == 1;
-  return hasFnc1 && WithoutFnc1(reading.bytes) == WithoutFnc1(promised);
+  return hasFnc1 && WithoutFnc1(reading.bytes) == WithoutFnc1(std::string(promised));
 }
 
-std::string Causes(const BarhatchResult& result) {
+std::string Causes(const Result& result) {
   const std::string ids = DeviationIds(result);
   return ids.empty() ? "" : ": " + ids;
 }
 
-Verdict JudgeBlank(const Request& request, const BarhatchResult& result) {
+Verdict JudgeBlank(const Request& request, const Result& result) {
   if (!IsKnownToReader(request.symbology)) {
     return {false, false, "cannot verify, the reader does not know this symbology"};
   }
   const std::string sentence = "the reader finds no symbol in the picture";
-  if (ReadingOf(result)) return {false, true, sentence};
+  if (result.Reading()) return {false, true, sentence};
   return {false, false, sentence + ", as the library says" + Causes(result)};
 }
 
 }  // namespace
 
-std::optional<std::string> ReadingOf(const BarhatchResult& result) {
-  if (result.reading == nullptr) return std::nullopt;
-  return std::string(result.reading, result.reading_length);
+std::string ReadingText(const Result& result) {
+  return result.Reading() ? Quoted(Utf8Of(*result.Reading()), kMostShown) : "nothing";
 }
 
-std::string ReadingText(const std::optional<std::string>& reading) {
-  return reading ? Quoted(Utf8Of(*reading), kMostShown) : "nothing";
-}
-
-std::string DeviationIds(const BarhatchResult& result) {
-  std::istringstream lines(result.deviations_met);
+std::string DeviationIds(const Result& result) {
   std::string ids;
-  for (std::string line; std::getline(lines, line);) {
-    ids += (ids.empty() ? "" : ", ") + line.substr(0, line.find(':'));
+  for (const std::string_view line : result.DeviationLines()) {
+    ids += ids.empty() ? "" : ", ";
+    ids += line.substr(0, line.find(':'));
   }
   return ids;
 }
 
-Verdict Judge(const Request& request, const BarhatchResult& result,
-              const std::optional<Reading>& reading) {
+Verdict Judge(const Request& request, const Result& result, const std::optional<Reading>& reading) {
   if (!reading) return JudgeBlank(request, result);
-  const std::optional<std::string> promised = ReadingOf(result);
   const std::string found = fmt::format("{} reads {} {}", reading->reader, reading->format,
                                         Quoted(reading->text, kMostShown));
-  if (!promised || !IsAsPromised(request, *promised, *reading)) {
-    return {false, false, fmt::format("{}, but the library says {}", found, ReadingText(promised))};
+  if (!result.Reading() || !IsAsPromised(request, *result.Reading(), *reading)) {
+    return {false, false, fmt::format("{}, but the library says {}", found, ReadingText(result))};
   }
-  if ((result.warnings & BARHATCH_W_UNREADABLE) == 0) return {true, false, found};
+  if (!result.warnings().Has(barhatch::Warning::kUnreadable)) return {true, false, found};
   return {false, false,
           fmt::format("{}, as the library says, and not {}{}", found,
                       Quoted(request.text, kMostShown), Causes(result))};

@@ -11,14 +11,12 @@
 
 namespace preview {
 
-// The bytes that the library promises; nothing where a reader reads nothing.
-std::optional<std::string> ReadingOf(const BarhatchResult& result);
-
-// In quotes, bytes as Latin-1; "nothing" where it is none.
-std::string ReadingText(const std::optional<std::string>& reading);
+// What the library promises, in quotes and its bytes as Latin-1; "nothing" where a reader reads
+// nothing.
+std::string ReadingText(const Result& result);
 
 // "D-39-2, D-39-4": the deviations that the symbol has met; empty where it has met none.
-std::string DeviationIds(const BarhatchResult& result);
+std::string DeviationIds(const Result& result);
 
 struct Verdict {
   bool isRead = false;   // as promised, and as the text that was marked
@@ -27,8 +25,7 @@ struct Verdict {
 };
 
 // REQUIRES: the result of the request, not refused.
-Verdict Judge(const Request& request, const BarhatchResult& result,
-              const std::optional<Reading>& reading);
+Verdict Judge(const Request& request, const Result& result, const std::optional<Reading>& reading);
 
 }  // namespace preview
 

@@ -64,12 +64,12 @@ void ExpectStrokesOfTheExports(const Request& request) {
   InitBarcode();
   FillBufferInfo* const fill =
       IsMatrix(request) ? GenerateMatrix(request) : GenerateLinear(request);
-  ASSERT_EQ(fill != nullptr, result->status == BARHATCH_OK) << result->message;
+  ASSERT_EQ(fill != nullptr, static_cast<bool>(result)) << result.message();
   if (fill == nullptr) return;
-  const std::size_t doubles = result->kind == BARHATCH_DOTS ? 2 : 4;
-  ASSERT_EQ(static_cast<std::size_t>(fill->BufferLength), result->strokes_count * doubles);
+  ASSERT_EQ(static_cast<std::size_t>(fill->BufferLength),
+            result.Segments().size() * 4 + result.Points().size() * 2);
   const std::size_t bytes = static_cast<std::size_t>(fill->BufferLength) * sizeof(double);
-  EXPECT_EQ(std::memcmp(fill->FilledArray, result->strokes, bytes), 0);
+  EXPECT_EQ(std::memcmp(fill->FilledArray, result.Record().strokes, bytes), 0);
   FreeBarcodeData(fill);
 }
 

@@ -16,7 +16,7 @@ Request RequestOf(std::int32_t symbology, const std::string& text, bool device =
 }
 
 Verdict Judged(const Request& request, const std::optional<Reading>& reading) {
-  return Judge(request, *ResultOf(request), reading);
+  return Judge(request, ResultOf(request), reading);
 }
 
 Reading ReadingOf(const std::string& text) { return {"reader", "Format", text, text}; }
@@ -77,12 +77,9 @@ TEST(Verification, TakesFnc1AndBytesAsTheReaderTellsThem) {
   EXPECT_FALSE(Judged(request, ReadingOf("12\x1D"
                                          "A"))
                    .isRead);
-  const Request latin = RequestOf(BARHATCH_CODABAR, "A1B");
-  BarhatchResult result = {};
-  result.reading = "\xE4";
-  result.reading_length = 1;
-  EXPECT_TRUE(Judge(latin, result, Reading{"r", "f", "\xC3\xA4", ""}).isRead);
-  EXPECT_TRUE(Judge(latin, result, Reading{"r", "f", "?", "\xE4"}).isRead);
+  const Request latin = RequestOf(BARHATCH_CODE_128, "\u00E4");
+  EXPECT_TRUE(Judged(latin, Reading{"r", "f", "\u00E4", ""}).isRead);
+  EXPECT_TRUE(Judged(latin, Reading{"r", "f", "?", "\xE4"}).isRead);
 }
 
 }  // namespace preview

@@ -26,7 +26,7 @@ Drawing DrawingOfPattern(std::int32_t symbology, std::int32_t pattern) {
   request.text = "A-1";
   request.pattern = pattern;
   request.gap = 0.31;
-  return DrawingOf(*ResultOf(request), "A-1 \xC3\xA4;\n<&");
+  return DrawingOf(ResultOf(request), "A-1 \xC3\xA4;\n<&");
 }
 
 std::vector<std::string> Lines(const std::string& text) {
