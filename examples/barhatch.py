@@ -267,7 +267,7 @@ class Rect(NamedTuple):
 class Result:
     """A mark, with everything of BarhatchResult that its job wanted."""
     warnings: MarkWarning
-    message: str              # of the first warning, or empty
+    message: str              # of the gravest warning, or empty
     kind: Kind
     rows: int                 # of modules; 1 for a linear symbol
     columns: int              # modules of a row, or elements of a linear symbol

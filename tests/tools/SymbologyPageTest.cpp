@@ -70,7 +70,6 @@ Request RequestOf(std::int32_t type, const std::string& text, bool device) {
   request.device = device;
   request.permit = !device;
   request.width = 1.0;
-  request.pattern = BARHATCH_POINTS;
   return request;
 }
 
