@@ -68,13 +68,15 @@ TEST(Explanation, CodabarLacksItsStopBehindTheText) {
   EXPECT_NE(refused.find("refused (status 7)\n  A12\n"), std::string::npos) << refused;
 }
 
-TEST(Explanation, WarningsAreCounted) {
+// The gravest warning is said: readers that refuse the mark weigh more than a 0 in front.
+TEST(Explanation, WarningsAreCountedAndTheGravestIsSaid) {
   Request request = RequestOf(BARHATCH_INTERLEAVED_2_OF_5, "123");
-  EXPECT_EQ(Explained(request),
-            "itf \"123\", by the book: accepted\n"
-            "  warning: a 0 was added in front: Interleaved 2 of 5 writes pairs of digits (and 1 "
-            "more)\n"
-            "  a standard reader reads: \"0123\"\n");
+  EXPECT_EQ(
+      Explained(request),
+      "itf \"123\", by the book: accepted\n"
+      "  warning: fewer than 6 digits of Interleaved 2 of 5: readers may not accept them (and 1 "
+      "more)\n"
+      "  a standard reader reads: \"0123\"\n");
   request.text = "12345678";
   EXPECT_EQ(Explained(request).find("warning"), std::string::npos);
 }
