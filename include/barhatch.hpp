@@ -363,17 +363,17 @@ class Result {
   Lines DeviationLines() const& noexcept { return Lines(ViewOf(record_.deviations_met)); }
   Lines DeviationLines() const&& = delete;
   // The bytes that a standard reader reports; none where it reads nothing.
-  std::optional<std::string_view> Reading() const&& = delete;
   std::optional<std::string_view> Reading() const& noexcept {
     if (record_.reading == nullptr) return std::nullopt;
     return std::string_view(record_.reading, record_.reading_length);
   }
+  std::optional<std::string_view> Reading() const&& = delete;
   // Text for people, to stand beside a linear symbol.
-  std::optional<std::string_view> Hri() const&& = delete;
   std::optional<std::string_view> Hri() const& noexcept {
     if (record_.hri == nullptr) return std::nullopt;
     return std::string_view(record_.hri);
   }
+  std::optional<std::string_view> Hri() const&& = delete;
   // The record itself.
   const BarhatchResult& Record() const noexcept { return record_; }
 
