@@ -6,28 +6,11 @@
 #include <cstdint>
 #include <random>
 #include <string>
-#include <vector>
 
 #include "barhatch_mark.h"
+#include "support/ExportedStrokes.h"
 
 namespace barhatch::test {
-
-// One mark by its numbers, which both interfaces have in other words.
-struct MarkNumbers {
-  std::int32_t symbology = 0;
-  std::u16string text;
-  std::int32_t pattern = 0;
-  double width = 0.0;  // of a linear symbol
-  double height = 0.0;
-  double gap = 0.0;
-  double ratio = 3.0;
-  bool isInverted = false;
-  bool hasQuietZone = false;
-  std::int32_t format = 0;  // of a Data Matrix, as all below
-  std::int32_t rows = 0;
-  std::int32_t columns = 0;
-  std::int32_t isExpanding = 0;
-};
 
 class RandomJobs {
  public:
@@ -49,16 +32,6 @@ class RandomJobs {
 
   std::mt19937 random_;
 };
-
-// The strokes of a mark, or none: refused.
-struct Strokes {
-  bool isRefused = true;
-  std::int32_t kind = 0;
-  std::vector<double> coordinates;
-};
-
-// By GenerateLinearBarcode or GenerateDataMatrixBarcode.
-Strokes StrokesByExports(const MarkNumbers& numbers);
 
 // The job that is the same mark; the text is the job's in its own form.
 BarhatchJob JobOfNumbers(const MarkNumbers& numbers);

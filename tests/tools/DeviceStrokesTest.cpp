@@ -7,10 +7,15 @@
 
 #include "Request.h"
 #include "barhatch.h"
+#include "support/ExportedStrokes.h"
 
 namespace preview {
 
 namespace {
+
+using barhatch::test::MarkNumbers;
+using barhatch::test::Strokes;
+using barhatch::test::StrokesByExports;
 
 constexpr const char* kTexts[] = {
     "A12-34B",           "AZ/1%%*",       "CODE $93",         "950110153100",
@@ -21,56 +26,41 @@ constexpr const char* kTexts[] = {
     "042526152495",      "12345",         "Code 93\xC2\x80!",
 };
 
-std::basic_string<BarhatchChar> UnitsOf(const std::string& utf8) {
-  std::basic_string<BarhatchChar> units;
+std::u16string UnitsOf(const std::string& utf8) {
+  std::u16string units;
   for (const char c : utf8) {
     if (c != '\xC2') units += static_cast<unsigned char>(c);  // of U+0080 to U+00BF
   }
   return units;
 }
 
-FillBufferInfo* GenerateLinear(const Request& request) {
-  const std::basic_string<BarhatchChar> units = UnitsOf(request.text);
-  LinearBarcodeInfo info{};
-  info.height = request.height;
-  info.width = request.width;
-  info.type = request.symbology;
-  info.DataString = units.c_str();
-  info.HatchingType = request.pattern;
-  info.LineGap = request.gap;
-  info.InvertImage = request.invert ? 1 : 0;
-  info.PrintRatio = request.ratio;
-  info.QuietZone = request.quietZone ? 1 : 0;
-  return GenerateLinearBarcode(&info);
-}
-
-FillBufferInfo* GenerateMatrix(const Request& request) {
-  const std::basic_string<BarhatchChar> units = UnitsOf(request.text);
-  DataMatrixBarcodeInfo info{};
-  info.height = request.height;
-  info.format = request.format;
-  info.DataString = units.c_str();
-  info.HatchingType = request.pattern;
-  info.LineGap = request.gap;
-  info.InvertImage = request.invert ? 1 : 0;
-  info.MatrixSize = request.rows * 256 + request.columns;
-  info.IsExpanding = request.expand || request.rows == 0 ? 1 : 0;
-  info.QuietZone = request.quietZone ? 1 : 0;
-  return GenerateDataMatrixBarcode(&info);
+MarkNumbers NumbersOf(const Request& request) {
+  MarkNumbers numbers;
+  numbers.symbology = request.symbology;
+  numbers.text = UnitsOf(request.text);
+  numbers.pattern = request.pattern;
+  numbers.width = request.width;
+  numbers.height = request.height;
+  numbers.gap = request.gap;
+  numbers.ratio = request.ratio;
+  numbers.isInverted = request.invert;
+  numbers.hasQuietZone = request.quietZone;
+  numbers.format = request.format;
+  numbers.rows = request.rows;
+  numbers.columns = request.columns;
+  numbers.isExpanding = request.expand || request.rows == 0 ? 1 : 0;
+  return numbers;
 }
 
 void ExpectStrokesOfTheExports(const Request& request) {
   const Result result = ResultOf(request);
   InitBarcode();
-  FillBufferInfo* const fill =
-      IsMatrix(request) ? GenerateMatrix(request) : GenerateLinear(request);
-  ASSERT_EQ(fill != nullptr, static_cast<bool>(result)) << result.message();
-  if (fill == nullptr) return;
-  ASSERT_EQ(static_cast<std::size_t>(fill->BufferLength),
-            result.Segments().size() * 4 + result.Points().size() * 2);
-  const std::size_t bytes = static_cast<std::size_t>(fill->BufferLength) * sizeof(double);
-  EXPECT_EQ(std::memcmp(fill->FilledArray, result.Record().strokes, bytes), 0);
-  FreeBarcodeData(fill);
+  const Strokes strokes = StrokesByExports(NumbersOf(request));
+  ASSERT_EQ(!strokes.isRefused, static_cast<bool>(result)) << result.message();
+  if (strokes.isRefused) return;
+  ASSERT_EQ(strokes.coordinates.size(), result.Segments().size() * 4 + result.Points().size() * 2);
+  const std::size_t bytes = strokes.coordinates.size() * sizeof(double);
+  EXPECT_EQ(std::memcmp(strokes.coordinates.data(), result.Record().strokes, bytes), 0);
 }
 
 // Every pattern, with and without quiet zone, dark and light.
