@@ -89,7 +89,7 @@ enum BarhatchInput {
   BARHATCH_UTF8 = 0,      /* UTF-8, length bytes of it, or up to the NUL */
   BARHATCH_BYTES = 1,     /* bytes, each one a character */
   BARHATCH_GS1 = 2,       /* element strings; not in this version */
-  BARHATCH_ESCAPED = 3,   /* not in this version */
+  BARHATCH_ESCAPED = 3,   /* UTF-8 with escapes: ^000 to ^255 a byte, ^FNC1 to ^FNC3, ^ECI000026, ^^ the caret */
   BARHATCH_UNITS = 4,     /* 16-bit units, as barhatch.h takes them; length counts units */
   BARHATCH_CODEWORDS = 5  /* not in this version */
 };
@@ -220,7 +220,7 @@ enum BarhatchStatus {
   BARHATCH_BAD_CHARACTER = 4, /* position says which */
   BARHATCH_BAD_LENGTH = 5,    /* another number of characters is needed */
   BARHATCH_BAD_CHECK = 6,     /* not in this version */
-  BARHATCH_BAD_SYNTAX = 7,    /* start or stop character missing */
+  BARHATCH_BAD_SYNTAX = 7,    /* start or stop character missing, an escape that is none */
   BARHATCH_UNKNOWN_AI = 8,    /* not in this version */
   BARHATCH_BAD_AI_DATA = 9,   /* not in this version */
   BARHATCH_TOO_LONG = 10,     /* for the symbol */

@@ -11,7 +11,9 @@ enum class Reason : std::uint8_t {
   kNone,                // not refused
   kOption,              // a number that names nothing; figure: that number
   kEmpty,               // text of no characters
-  kNoUtf8,              // position: of a byte that belongs to no character
+  kNoUtf8,              // position: of a byte or unit that belongs to no character
+  kNoEscape,            // position: of an escape that there is none
+  kFunction,            // position: of a function character or ECI that the symbology lacks
   kCharacter,           // position: of a character that the symbology lacks; figure: its code
   kLength,              // figure: the characters there are
   kEndInside,           // position: of a start or stop character between others

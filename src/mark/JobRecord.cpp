@@ -79,7 +79,8 @@ bool IsPattern(std::int32_t pattern) {
 }
 
 bool IsInput(std::int32_t input) {
-  return input == BARHATCH_UTF8 || input == BARHATCH_BYTES || input == BARHATCH_UNITS;
+  return input == BARHATCH_UTF8 || input == BARHATCH_BYTES || input == BARHATCH_ESCAPED ||
+         input == BARHATCH_UNITS;
 }
 
 std::int32_t Refuse(std::int32_t status, const char* sentence, Message& message) {
@@ -147,7 +148,7 @@ std::int32_t CheckLinearOptions(const BarhatchJob& job, Message& message) {
 
 std::int32_t CheckChoices(const BarhatchJob& job, Message& message) {
   if (!IsInput(job.input)) {
-    return RefuseNumber("input", job.input, " is not in this version: 0, 1 and 4", message);
+    return RefuseNumber("input", job.input, " is not in this version: 0, 1, 3 and 4", message);
   }
   if ((job.flags & ~kFlags) != 0) {
     return Refuse(BARHATCH_BAD_OPTION, "a flag is set that this version does not have", message);

@@ -11,6 +11,7 @@
 #include "job/Job.h"
 #include "job/Memory.h"
 #include "job/Refusal.h"
+#include "job/Token.h"
 
 namespace barhatch {
 
@@ -27,6 +28,11 @@ struct LinearSymbol {
 // A refused job has taken no memory. REQUIRES: job.symbology in 0..22.
 Refusal DrawLinear(const LinearJob& job, std::size_t usualCapacity, const Memory& memory,
                    Conformance& how, LinearSymbol& symbol);
+
+// Code 128 by the book, of a text with function characters. REQUIRES: one token or more, at most
+// kLongestLinearText, bytes that the type has and FNC1 to FNC3; job.text is not looked at.
+Refusal DrawCode128(const LinearJob& job, const TokenText& text, const Memory& memory,
+                    LinearSymbol& symbol);
 
 }  // namespace barhatch
 

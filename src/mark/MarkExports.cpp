@@ -65,8 +65,8 @@ constexpr std::size_t kUpcEDigits = 6;
 Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result) {
   if (refusal.position < 0) return refusal;
   TextPlace place = text.PlaceOf(static_cast<std::size_t>(refusal.position));
-  if (refusal.reason == Reason::kCharacter) {
-    refusal.figure = static_cast<std::int32_t>(text.CodeAt(place));
+  if (refusal.reason == Reason::kCharacter || refusal.reason == Reason::kFunction) {
+    refusal.figure = static_cast<std::int32_t>(text.TokenAt(place));
   }
   if (refusal.reason == Reason::kNotStandard && refusal.position > 0) place.extent = kUpcEDigits;
   SetPlace(place, result);
@@ -75,14 +75,16 @@ Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result
 
 Refusal MakeSymbol(const BarhatchJob& job, const InputText& text, Conformance& how,
                    MarkedSymbol& symbol, BarhatchResult& result) {
-  std::size_t units = 0;
+  std::size_t count = 0;
   TextPlace broken = {0, 0};
-  if (!text.CountUnits(units, broken)) {
+  Refusal refusal = text.Count(count, broken);
+  if (refusal.IsRefused()) {
     SetPlace(broken, result);
-    return {Reason::kNoUtf8, -1, 0};
+    refusal.figure = static_cast<std::int32_t>(text.TokenAt(broken));
+    return refusal;
   }
-  const Refusal refusal = IsMatrix(job) ? MakeMatrixSymbol(job, text, units, how, symbol, result)
-                                        : MakeLinearSymbol(job, text, units, how, symbol);
+  refusal = IsMatrix(job) ? MakeMatrixSymbol(job, text, count, how, symbol, result)
+                          : MakeLinearSymbol(job, text, count, how, symbol);
   return WithPlace(text, refusal, result);
 }
 

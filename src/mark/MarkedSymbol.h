@@ -50,11 +50,11 @@ struct MarkedSymbol {
   std::uint32_t warnings = 0;
 };
 
-// Draws the text and has it read back. `units` is its length. What a refusal names by position is a
-// unit of the text.
-Refusal MakeLinearSymbol(const BarhatchJob& job, const InputText& text, std::size_t units,
+// Draws the text and has it read back. `count` is its length in tokens, for the device in units.
+// What a refusal names by position is one of them.
+Refusal MakeLinearSymbol(const BarhatchJob& job, const InputText& text, std::size_t count,
                          Conformance& how, MarkedSymbol& symbol);
-Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::size_t units,
+Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::size_t count,
                          Conformance& how, MarkedSymbol& symbol, BarhatchResult& result);
 
 }  // namespace barhatch

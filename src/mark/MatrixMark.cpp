@@ -61,13 +61,13 @@ Refusal ReadBack(const MatrixSymbol& matrix, const TextUnits& text, Header heade
 
 }  // namespace
 
-Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::size_t units,
+Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::size_t count,
                          Conformance& how, MarkedSymbol& symbol, BarhatchResult& result) {
-  if (units > kMaxDataMatrixText) return {Reason::kLength, -1, FigureOf(units)};
-  const Block<char16_t> given(symbol.memory, units + 1);
+  if (count > kMaxDataMatrixText) return {Reason::kLength, -1, FigureOf(count)};
+  const Block<char16_t> given(symbol.memory, count + 1);
   if (given.get() == nullptr) return {Reason::kNoMemory, -1, 0};
-  text.CopyUnits(given.get(), units);
-  const TextUnits content = {given.get(), units};
+  text.CopyUnits(given.get(), count);
+  const TextUnits content = {given.get(), count};
   const Refusal unit = CheckUnits(content, symbol.warnings);
   if (unit.IsRefused()) return unit;
 

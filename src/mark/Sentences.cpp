@@ -1,6 +1,7 @@
 #include "mark/Sentences.h"
 
 #include "datamatrix/DataMatrix.h"
+#include "job/Token.h"
 #include "mark/Names.h"
 #include "symbologies/Code128Shortest.h"
 #include "symbologies/SymbologyTable.h"
@@ -19,6 +20,8 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kOption, BARHATCH_BAD_OPTION},
     {Reason::kEmpty, BARHATCH_EMPTY},
     {Reason::kNoUtf8, BARHATCH_BAD_CHARACTER},
+    {Reason::kNoEscape, BARHATCH_BAD_SYNTAX},
+    {Reason::kFunction, BARHATCH_BAD_CHARACTER},
     {Reason::kCharacter, BARHATCH_BAD_CHARACTER},
     {Reason::kLength, BARHATCH_BAD_LENGTH},
     {Reason::kEndInside, BARHATCH_BAD_CHARACTER},
@@ -160,6 +163,26 @@ void SayCharacter(const BarhatchJob& job, const SymbologyName& name, const Refus
                                << AcceptedBy(name, job.conformance);
 }
 
+void SayNoCharacter(const BarhatchJob& job, std::int32_t place, Message& message) {
+  if (job.input == BARHATCH_UNITS) {
+    message << "unit " << place << " is half of a surrogate pair";
+  } else {
+    message << "byte " << place << " is not UTF-8";
+  }
+}
+
+void SayFunction(const BarhatchJob& job, const SymbologyName& name, std::int32_t figure,
+                 std::int32_t place, Message& message) {
+  const auto token = static_cast<Token>(figure);
+  if (IsEci(token)) {
+    message << "ECI " << EciNumber(token);
+  } else {
+    message << "FNC" << static_cast<std::int32_t>(token - kFnc1Token) + 1;
+  }
+  message << " at " << place << ": there is none in " << name.name;
+  if (job.conformance == BARHATCH_DEVICE) message << " of the device";
+}
+
 void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
                     Message& message) {
   const SymbologyName& name = *NameOf(job.symbology);
@@ -168,7 +191,13 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
       message << name.name << " needs at least one character";
       break;
     case Reason::kNoUtf8:
-      message << "byte " << place << " is not UTF-8";
+      SayNoCharacter(job, place, message);
+      break;
+    case Reason::kNoEscape:
+      message << "no escape at " << place << ": ^000 to ^255, ^FNC1 to ^FNC3, ^ECI000000, ^^";
+      break;
+    case Reason::kFunction:
+      SayFunction(job, name, refusal.figure, place, message);
       break;
     case Reason::kCharacter:
       SayCharacter(job, name, refusal, place, message);

@@ -4,7 +4,6 @@
 
 #include "job/CharacterClasses.h"
 #include "symbologies/Code128Patterns.h"
-#include "symbologies/Code128Shortest.h"
 
 namespace barhatch {
 
@@ -153,7 +152,18 @@ const char* AppendStartAndText(const Characters& text, Code128Policy policy, Cod
   }
 }
 
+void DrawBytes(const Characters& text, int variant, SymbolWriter& out) {
+  const Block<Token> tokens(out.GetMemory(), text.length);
+  if (tokens.get() == nullptr) return;
+  for (std::size_t i = 0; i < text.length; ++i) {
+    tokens.get()[i] = static_cast<unsigned char>(text.text[i]);
+  }
+  DrawShortestCode128({tokens.get(), text.length}, Code128StartOf(variant), out);
+}
+
 }  // namespace
+
+Code128Start Code128StartOf(int variant) { return kStarts[variant]; }
 
 void BuildCode128Values(const Characters& text, Code128Policy policy, Conformance& how,
                         Code128Values& symbol) {
@@ -166,7 +176,7 @@ void BuildCode128Values(const Characters& text, Code128Policy policy, Conformanc
 
 void EncodeCode128(const Characters& text, int variant, Conformance& how, SymbolWriter& out) {
   if (!how.IsInForce(Deviation::kD128_3)) {
-    return DrawShortestCode128(text, kStarts[variant], out);
+    return DrawBytes(text, variant, out);
   }
   Code128Values symbol;
   BuildCode128Values(text, static_cast<Code128Policy>(variant), how, symbol);

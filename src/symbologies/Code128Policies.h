@@ -27,6 +27,7 @@
 #include <cstdint>
 
 #include "symbologies/Code128Patterns.h"
+#include "symbologies/Code128Shortest.h"
 #include "symbologies/Encoder.h"
 
 namespace barhatch {
@@ -59,6 +60,9 @@ void BuildCode128Values(const Characters& text, Code128Policy policy, Conformanc
 // The values and the stop, and the termination bar.
 constexpr std::size_t kMostCode128Letters =
     kCode128CharacterModules * (kMaxCode128Values + 1) + kCode128TerminationBarModules;
+
+// By the book the symbol begins so. variant: a Code128Policy.
+Code128Start Code128StartOf(int variant);
 
 // variant: a Code128Policy, which the device follows; by the book the symbol is the shortest one
 // (Code128Shortest.h) that starts as the policy says. 11 letters for each value and 13 for the

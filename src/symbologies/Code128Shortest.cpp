@@ -1,6 +1,5 @@
 #include "symbologies/Code128Shortest.h"
 
-#include "job/CharacterClasses.h"
 #include "symbologies/Code128Patterns.h"
 
 namespace barhatch {
@@ -30,22 +29,30 @@ constexpr int kSwitchValues[] = {kCode128SwitchToA, kCode128SwitchToB, kCode128S
 constexpr int kFnc4Values[] = {kCode128SwitchToA, kCode128SwitchToB, 0};
 constexpr int kSetsByPreference[] = {kB, kA, kC};
 
-int LowBits(char character) { return static_cast<unsigned char>(character) & 0x7F; }
-bool IsHigh(char character) { return AsSignedByte(character) < 0; }
+int LowBits(Token byte) { return static_cast<int>(byte & 0x7F); }
+bool IsHigh(Token byte) { return byte >= 128; }
 
-bool IsInSet(int set, char character) {
-  const int low = LowBits(character);
+bool IsInSet(int set, Token byte) {
+  const int low = LowBits(byte);
   return set == kA ? low < 96 : low >= ' ';
 }
 
-bool IsPair(const Characters& text, std::size_t at) {
-  return at + 1 < text.length && IsDigit(text.text[at]) && IsDigit(text.text[at + 1]);
+int DigitOf(Token token) { return static_cast<int>(token) - '0'; }
+bool IsDigitToken(Token token) { return token >= '0' && token <= '9'; }
+
+bool IsPair(const TokenText& text, std::size_t at) {
+  return at + 1 < text.length && IsDigitToken(text.tokens[at]) && IsDigitToken(text.tokens[at + 1]);
 }
 
-// Values of one character in set A or B.
-int CharacterCost(int way, char character) {
-  return 1 + (IsInSet(SetOf(way), character) ? 0 : 1) +
-         (IsHigh(character) != IsLatched(way) ? 1 : 0);
+// Values of one character in set A or B. A function character is one in either.
+int CharacterCost(int way, Token token) {
+  if (!IsByte(token)) return 1;
+  return 1 + (IsInSet(SetOf(way), token) ? 0 : 1) + (IsHigh(token) != IsLatched(way) ? 1 : 0);
+}
+
+int FunctionValue(Token token) {
+  if (token == kFnc1Token) return kCode128Fnc1;
+  return token == kFnc2Token ? kCode128Fnc2 : kCode128Fnc3;
 }
 
 // From one way to stand at a place to another, directly.
@@ -56,7 +63,7 @@ int StepCost(int from, int to) {
 
 class ShortestWalk {
  public:
-  ShortestWalk(const Characters& text, Code128Start start, Costs* costs)
+  ShortestWalk(const TokenText& text, Code128Start start, Costs* costs)
       : text_(text), start_(start), costs_(costs) {
     costs_[text_.length] = {};
     for (std::size_t at = text_.length; at-- > 0;) FindCosts(at);
@@ -84,8 +91,11 @@ class ShortestWalk {
   // Without a switch: the next character or pair, and what follows it.
   int TakingCost(int way, std::size_t at) const {
     if (!MayStandIn(way)) return kNoWay;
-    if (SetOf(way) == kC) return IsPair(text_, at) ? 1 + costs_[at + 2].of[way] : kNoWay;
-    return CharacterCost(way, text_.text[at]) + costs_[at + 1].of[way];
+    const Token token = text_.tokens[at];
+    if (SetOf(way) == kC && token != kFnc1Token) {
+      return IsPair(text_, at) ? 1 + costs_[at + 2].of[way] : kNoWay;
+    }
+    return CharacterCost(way, token) + costs_[at + 1].of[way];
   }
 
   // Three steps lead from any way to any other.
@@ -106,7 +116,7 @@ class ShortestWalk {
   int StartWay() const {
     if (start_ == Code128Start::kA) return WayOf(kA, false);
     if (start_ == Code128Start::kB) return WayOf(kB, false);
-    if (start_ == Code128Start::kPair) return WayOf(IsPair(text_, 0) ? kC : kB, false);
+    if (start_ == Code128Start::kPair) return WayOf(BeginsWithPair() ? kC : kB, false);
     int best = kB;
     for (const int set : kSetsByPreference) {
       if (costs_[0].of[set] < costs_[0].of[best]) best = set;
@@ -114,19 +124,26 @@ class ShortestWalk {
     return best;
   }
 
+  // FNC1 in front says what the text is; set C has it too.
+  bool BeginsWithPair() const { return IsPair(text_, text_.tokens[0] == kFnc1Token ? 1 : 0); }
+
   void Put(int value) { *next_++ = static_cast<std::uint8_t>(value); }
 
   // Returns the characters taken.
   std::size_t Take(int way, std::size_t at) {
-    const char character = text_.text[at];
+    const Token token = text_.tokens[at];
     const int set = SetOf(way);
+    if (!IsByte(token)) {
+      Put(FunctionValue(token));
+      return 1;
+    }
     if (set == kC) {
-      Put((character - '0') * 10 + (text_.text[at + 1] - '0'));
+      Put(DigitOf(token) * 10 + DigitOf(text_.tokens[at + 1]));
       return 2;
     }
-    if (IsHigh(character) != IsLatched(way)) Put(kFnc4Values[set]);
-    if (!IsInSet(set, character)) Put(kCode128Shift);
-    const int low = LowBits(character);
+    if (IsHigh(token) != IsLatched(way)) Put(kFnc4Values[set]);
+    if (!IsInSet(set, token)) Put(kCode128Shift);
+    const int low = LowBits(token);
     Put(low < ' ' ? low + 64 : low - ' ');
     return 1;
   }
@@ -145,7 +162,7 @@ class ShortestWalk {
     return WayOf(SetOf(from), !IsLatched(from));
   }
 
-  const Characters& text_;
+  const TokenText& text_;
   const Code128Start start_;
   Costs* const costs_;  // by place, one more than there are characters
   std::uint8_t* next_ = nullptr;
@@ -153,8 +170,8 @@ class ShortestWalk {
 
 }  // namespace
 
-std::uint8_t* ShortestCode128Values(const Characters& text, Code128Start start,
-                                    const Memory& memory, int& count) {
+std::uint8_t* ShortestCode128Values(const TokenText& text, Code128Start start, const Memory& memory,
+                                    int& count) {
   const Block<Costs> costs(memory, text.length + 1);
   if (costs.get() == nullptr) return nullptr;
   ShortestWalk walk(text, start, costs.get());
@@ -165,7 +182,7 @@ std::uint8_t* ShortestCode128Values(const Characters& text, Code128Start start,
   return values.Release();
 }
 
-void DrawShortestCode128(const Characters& text, Code128Start start, SymbolWriter& out) {
+void DrawShortestCode128(const TokenText& text, Code128Start start, SymbolWriter& out) {
   int count = 0;
   std::uint8_t* const values = ShortestCode128Values(text, start, out.GetMemory(), count);
   if (values == nullptr) return;

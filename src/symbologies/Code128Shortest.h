@@ -6,13 +6,15 @@
 //   104 65 66 17 99 23 45 67     start B, a, b, 1, switch to C, 23, 45, 67
 // and "a\xE9" 104 65 100 73: start B, a, FNC4, i.
 //
-// Bytes of 128 and above are written with FNC4, singly or latched by two of them. Where two ways
-// cost the same, no switch is made before it has to be; a start is B before A before C.
+// Bytes of 128 and above are written with FNC4, singly or latched by two of them. FNC1 is one value
+// in every set, FNC2 and FNC3 in A and B. Where two ways cost the same, no switch is made before it
+// has to be; a start is B before A before C.
 #ifndef BARHATCH_SYMBOLOGIES_CODE128SHORTEST_H
 #define BARHATCH_SYMBOLOGIES_CODE128SHORTEST_H
 
 #include <cstdint>
 
+#include "job/Token.h"
 #include "symbologies/Encoder.h"
 
 namespace barhatch {
@@ -21,7 +23,7 @@ enum class Code128Start : std::uint8_t {
   kFree,
   kA,
   kB,     // and stays there
-  kPair,  // C where the text begins with two digits, else B
+  kPair,  // C where the text begins with two digits, behind FNC1 or not, else B
 };
 
 // From the start to the check character. A symbol of this many would be 22,000 modules wide.
@@ -29,13 +31,13 @@ constexpr int kMostShortestValues = 2000;
 
 // The values from the start to the last one before the check character, from the memory; the caller
 // gives them back. Null when there is no memory. Takes time in proportion to the text and, while it
-// runs, 12 bytes a character. REQUIRES: one character or more, at most kLongestLinearText; for kB
-// none that set B lacks.
-std::uint8_t* ShortestCode128Values(const Characters& text, Code128Start start,
-                                    const Memory& memory, int& count);
+// runs, 12 bytes a character. REQUIRES: one token or more, at most kLongestLinearText, bytes and
+// FNC1 to FNC3; for kB none that set B lacks.
+std::uint8_t* ShortestCode128Values(const TokenText& text, Code128Start start, const Memory& memory,
+                                    int& count);
 
 // Draws the symbol; refuses to the writer what has more than kMostShortestValues values.
-void DrawShortestCode128(const Characters& text, Code128Start start, SymbolWriter& out);
+void DrawShortestCode128(const TokenText& text, Code128Start start, SymbolWriter& out);
 
 }  // namespace barhatch
 

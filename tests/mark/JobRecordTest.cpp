@@ -81,9 +81,9 @@ TEST(JobOptions, ConformancesThatAreNone) {
 }
 
 TEST(JobOptions, InputsToCome) {
-  for (const std::int32_t input : {2, 3, 5, 6, -1}) {
+  for (const std::int32_t input : {2, 5, 6, -1}) {
     EXPECT_EQ(Linear([&](BarhatchJob& job) { job.input = input; }),
-              "2 input " + std::to_string(input) + " is not in this version: 0, 1 and 4");
+              "2 input " + std::to_string(input) + " is not in this version: 0, 1, 3 and 4");
   }
 }
 

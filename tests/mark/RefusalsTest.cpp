@@ -34,6 +34,13 @@ std::string OfUnits(std::int32_t symbology, const std::u16string& text,
   return Refused(job);
 }
 
+std::string OfEscapes(std::int32_t symbology, const char* text,
+                      std::int32_t conformance = BARHATCH_PUBLISHED) {
+  BarhatchJob job = JobOf(symbology, text, conformance);
+  job.input = BARHATCH_ESCAPED;
+  return Refused(job);
+}
+
 BarhatchJob MatrixOf(const char* text, std::int32_t rows, std::int32_t columns,
                      std::uint32_t flags = 0) {
   BarhatchJob job = JobOf(BARHATCH_DATA_MATRIX, text);
@@ -125,7 +132,7 @@ TEST(Refusals, CharactersOfMoreBytesAreNamedWhole) {
   EXPECT_EQ(Published(4, "1\xF0\x9F\x98\x80"),
             std::string("4 at 2+4: character 2 (0x1F600)") + rest);
   EXPECT_EQ(OfUnits(4, u"1\U0001F600", BARHATCH_PUBLISHED),
-            std::string("4 at 2+1: character 2 (0xD83D)") + rest);
+            std::string("4 at 2+2: character 2 (0x1F600)") + rest);
 }
 
 TEST(Refusals, CharactersOfWhichTheDeviceTakesTheLowByteAreNamedAsGiven) {
@@ -142,6 +149,33 @@ TEST(Refusals, ZerosAmongTheCharacters) {
               "4 at 2+1: character 2 is 0, which ends a text of the device")
         << symbology;
   }
+}
+
+TEST(Refusals, TheFirstCharacterThatIsNoneIsNamed) {
+  EXPECT_EQ(Published(4, "1x\xC5\xA1"), "4 at 2+1: character 2 (0x78 'x') is not in MSI: digits");
+  EXPECT_EQ(Published(4, "1\xC5\xA1x"), "4 at 2+2: character 2 (0x0161) is not in MSI: digits");
+  EXPECT_EQ(Published(7, "a\n\xC5\xA1"),
+            "4 at 2+1: character 2 (0x0A) is not in Code 128 set B: characters from 32 to 127");
+}
+
+TEST(Refusals, EscapesThatAreNone) {
+  const char* const sentence = ": no escape at 3: ^000 to ^255, ^FNC1 to ^FNC3, ^ECI000000, ^^";
+  EXPECT_EQ(OfEscapes(5, "ab^FNC4"), std::string("7 at 3+1") + sentence);
+  EXPECT_EQ(OfEscapes(5, "ab^"), std::string("7 at 3+1") + sentence);
+  EXPECT_EQ(OfEscapes(5, "ab^", BARHATCH_DEVICE), std::string("7 at 3+1") + sentence);
+}
+
+TEST(Refusals, FunctionsThatASymbologyLacks) {
+  EXPECT_EQ(OfEscapes(1, "AB^FNC1C"), "4 at 3+5: FNC1 at 3: there is none in Code 39");
+  EXPECT_EQ(OfEscapes(22, "AB^FNC3"), "4 at 3+5: FNC3 at 3: there is none in Code 93, full ASCII");
+  EXPECT_EQ(OfEscapes(5, "^ECI000026A"), "4 at 1+10: ECI 26 at 1: there is none in Code 128");
+  EXPECT_EQ(OfEscapes(5, "A^FNC2", BARHATCH_DEVICE),
+            "4 at 2+5: FNC2 at 2: there is none in Code 128 of the device");
+}
+
+TEST(Refusals, HalvesOfSurrogatePairs) {
+  EXPECT_EQ(OfUnits(5, {u'1', 0xD800}, BARHATCH_PUBLISHED),
+            "4 at 2+1: unit 2 is half of a surrogate pair");
 }
 
 TEST(Refusals, BytesThatAreNoUtf8) {

@@ -65,8 +65,13 @@ bool HasPlace(std::int32_t status) {
          status == BARHATCH_NOT_STANDARD;
 }
 
-// True where one of the usual characters instead of the named ones makes another refusal of it, or
-// none.
+bool IsOfCharacter(const Mark& mark) {
+  return mark.Message().find(" is not in ") != std::string::npos;
+}
+
+// True where one of the usual characters instead of the named ones removes the refusal: what is
+// left, if anything, has no place, stands behind it or is of another kind: characters that the
+// symbology lacks are named from the left.
 bool IsMended(BarhatchJob job, const std::string& text, const Mark& refused) {
   for (const std::string& instead : {std::string("1"), std::string("0"), std::string("A")}) {
     std::string mended = text;
@@ -76,7 +81,10 @@ bool IsMended(BarhatchJob job, const std::string& text, const Mark& refused) {
     job.text = mended.data();
     job.length = mended.size();
     const Mark mark(job);
-    if (mark->status != refused->status || mark->position != refused->position) return true;
+    const bool isBehind = mark->position == 0 || mark->position > refused->position;
+    const bool isOther =
+        mark->position != refused->position && !(IsOfCharacter(mark) && IsOfCharacter(refused));
+    if (mark.IsOk() || isBehind || isOther) return true;
   }
   return false;
 }

@@ -17,10 +17,18 @@
 namespace barhatch {
 namespace {
 
-std::vector<int> ValuesOf(const std::string& text, Code128Start start = Code128Start::kFree) {
+using Tokens = std::vector<Token>;
+
+Tokens TokensOf(const std::string& text) {
+  Tokens tokens;
+  for (const char byte : text) tokens.push_back(static_cast<unsigned char>(byte));
+  return tokens;
+}
+
+std::vector<int> ValuesOf(const Tokens& text, Code128Start start = Code128Start::kFree) {
   int count = 0;
   std::uint8_t* const values =
-      ShortestCode128Values({text.c_str(), text.size()}, start, RuntimeMemory(), count);
+      ShortestCode128Values({text.data(), text.size()}, start, RuntimeMemory(), count);
   std::vector<int> found(values, values + count);
   RuntimeMemory().Release(values);
   return found;
@@ -33,7 +41,7 @@ std::string Decimal(const std::vector<int>& values) {
 }
 
 std::string Values(const std::string& text, Code128Start start = Code128Start::kFree) {
-  return Decimal(ValuesOf(text, start));
+  return Decimal(ValuesOf(TokensOf(text), start));
 }
 
 // What the library's standard reader gives for the drawn symbol of a type.
@@ -70,6 +78,24 @@ TEST(Code128Shortest, WritesTheseTextsSo) {
       {"NUL is in A", std::string("\0", 1), "103 64"},
   };
   for (const Example& e : examples) EXPECT_EQ(Values(e.text), e.values) << e.why;
+}
+
+// GS1 General Specifications 5.4: the start C and FNC1 of GS1-128.
+TEST(Code128Shortest, Fnc1StandsInEverySet) {
+  EXPECT_EQ(Decimal(ValuesOf({kFnc1Token, '1', '2', '3', '4'})), "105 102 12 34");
+  EXPECT_EQ(Decimal(ValuesOf({kFnc1Token, '1', '2'}, Code128Start::kPair)), "105 102 12");
+  EXPECT_EQ(Decimal(ValuesOf({kFnc1Token, 'A'})), "104 102 33");
+  EXPECT_EQ(Decimal(ValuesOf({'\n', kFnc1Token, '\r'})), "103 74 102 77");
+  EXPECT_EQ(Decimal(ValuesOf({'1', '2', kFnc1Token, '3', '4'})), "105 12 102 34");
+  EXPECT_EQ(Decimal(ValuesOf({'1', '2', '3', kFnc1Token, '4'}, Code128Start::kB)),
+            "104 17 18 19 102 20");
+}
+
+TEST(Code128Shortest, Fnc2AndFnc3AreMissingFromSetC) {
+  EXPECT_EQ(Decimal(ValuesOf({kFnc3Token, 'a'})), "104 96 65");
+  EXPECT_EQ(Decimal(ValuesOf({'\n', kFnc2Token})), "103 74 97");
+  EXPECT_EQ(Decimal(ValuesOf({'1', '2', '3', '4', kFnc2Token})), "105 12 34 100 97");
+  EXPECT_EQ(Decimal(ValuesOf({kFnc3Token, '1', '2', '3', '4'})), "104 96 99 12 34");
 }
 
 TEST(Code128Shortest, BeginsAsTheTypeSays) {
@@ -136,7 +162,7 @@ TEST(Code128Shortest, IsNeverLongerThanAPlainSearchFinds) {
   std::mt19937 random(128);
   for (int i = 0; i < 3000; ++i) {
     const std::string text = RandomMixture(random, 1 + random() % 40);
-    ASSERT_EQ(static_cast<int>(ValuesOf(text).size()), FewestValues(text)) << i;
+    ASSERT_EQ(static_cast<int>(ValuesOf(TokensOf(text)).size()), FewestValues(text)) << i;
   }
 }
 
@@ -187,7 +213,8 @@ TEST(Code128Shortest, WithoutMemoryThereIsNothing) {
   const Memory none = {[](void*, std::size_t) -> void* { return nullptr; }, [](void*, void*) {},
                        nullptr};
   int count = 0;
-  EXPECT_EQ(ShortestCode128Values({"A", 1}, Code128Start::kFree, none, count), nullptr);
+  const Token letter = 'A';
+  EXPECT_EQ(ShortestCode128Values({&letter, 1}, Code128Start::kFree, none, count), nullptr);
 }
 
 }  // namespace
