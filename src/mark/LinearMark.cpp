@@ -32,14 +32,8 @@ Refusal Narrow(const char16_t* units, std::size_t count, bool isDevice, char* by
   return {};
 }
 
-QuietSides StandardQuiet(const BarhatchJob& job) {
-  const SymbologyRow& row = kSymbologies[job.symbology];
-  return {row.quietLeft, row.quietRight, 0, 0};
-}
-
-QuietSides QuietOf(const BarhatchJob& job) {
+QuietSides QuietOf(const BarhatchJob& job, const QuietModules& standard) {
   const std::int32_t asked = QuietModulesOf(job);
-  const QuietSides standard = StandardQuiet(job);
   return {QuietZoneOf(asked, standard.left), QuietZoneOf(asked, standard.right), 0, 0};
 }
 
@@ -49,7 +43,7 @@ void WarnOfDigits(std::size_t digits, std::uint32_t& warnings) {
 }
 
 // The letters of the symbol alone, without the quiet zone that is drawn.
-Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const Characters& text,
+Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const PreparedText& text,
                  MarkedSymbol& symbol) {
   const auto quiet = static_cast<std::size_t>(drawn.quietLeft + drawn.quietRight);
   const std::size_t letters = drawn.length - quiet;
@@ -57,13 +51,40 @@ Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const Charac
   symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(letters + 1));
   if (symbol.reading == nullptr || symbol.values == nullptr) return {Reason::kNoMemory, -1, 0};
   SymbolReading reading = {symbol.reading, 0, symbol.values, 0};
-  symbol.isRead = ReadSymbol(job.symbology, drawn.letters + drawn.quietLeft, letters, reading);
+  symbol.isRead = ReadSymbol(job.symbology, CheckScheme::kOwn, drawn.letters + drawn.quietLeft,
+                             letters, reading);
   symbol.readingLength = reading.textLength;
   symbol.valuesCount = reading.valuesCount;
-  const bool isAsGiven = symbol.isRead && IsReadingOfLinear(job.symbology, text,
-                                                            {symbol.reading, symbol.readingLength});
-  if (!isAsGiven) symbol.warnings |= BARHATCH_W_UNREADABLE;
+  const bool isText = symbol.isRead && IsReadingOfLinear(text.reading, {text.room, text.length},
+                                                         {symbol.reading, symbol.readingLength});
+  if (!isText) symbol.warnings |= BARHATCH_W_UNREADABLE;
   return {};
+}
+
+// The device may shorten the text that it draws: it does so in a copy, and `text` stays as it was.
+Refusal DrawAsTheDevice(const BarhatchJob& job, const PreparedText& text, const Memory& memory,
+                        Conformance& how, LinearSymbol& drawn) {
+  const Block<char> copy(memory, text.length + 1);
+  if (copy.get() == nullptr) return {Reason::kNoMemory, -1, 0};
+  std::memcpy(copy.get(), text.room, text.length + 1);
+  const LinearJob linear = {job.symbology, copy.get(), text.length, DrawnQuietModulesOf(job)};
+  return DrawLinear(linear, 0, memory, how, drawn);
+}
+
+Refusal DrawText(const BarhatchJob& job, const SymbologyRow& row, const Memory& memory,
+                 Conformance& how, PreparedText& text, LinearSymbol& drawn) {
+  if (job.conformance == BARHATCH_DEVICE) return DrawAsTheDevice(job, text, memory, how, drawn);
+  return DrawPublished(row, LinearOptionsOf(job), DrawnQuietModulesOf(job), memory, how, text,
+                       drawn);
+}
+
+// What there is to say about a symbol beside its letters.
+void Describe(const BarhatchJob& job, const PreparedText& text, MarkedSymbol& symbol) {
+  symbol.quiet = QuietOf(job, text.quiet);
+  if (text.reading.inPairs) WarnOfDigits(text.length, symbol.warnings);
+  if (symbol.quiet.left < text.quiet.left || symbol.quiet.right < text.quiet.right) {
+    symbol.warnings |= SmallQuietZoneWarning(job);
+  }
 }
 
 }  // namespace
@@ -72,34 +93,25 @@ Refusal MakeLinearSymbol(const BarhatchJob& job, const InputText& text, std::siz
                          Conformance& how, MarkedSymbol& symbol) {
   if (units > kLongestLinearText) return {Reason::kLength, -1, FigureOf(units)};
   const Block<char16_t> given(symbol.memory, units + 1);
-  const Block<char> bytes(symbol.memory, units + 1);
-  const Block<char> checked(symbol.memory, units + 1);  // a check may shorten the text
-  if (given.get() == nullptr || bytes.get() == nullptr || checked.get() == nullptr) {
-    return {Reason::kNoMemory, -1, 0};
-  }
+  const Block<char> bytes(symbol.memory, PreparationRoom(units));
+  if (given.get() == nullptr || bytes.get() == nullptr) return {Reason::kNoMemory, -1, 0};
   text.CopyUnits(given.get(), units);
   std::size_t length = 0;
   const bool isDevice = job.conformance == BARHATCH_DEVICE;
   const Refusal narrowed =
       Narrow(given.get(), units, isDevice, bytes.get(), length, symbol.warnings);
   if (narrowed.IsRefused()) return narrowed;
-  std::memcpy(checked.get(), bytes.get(), length + 1);
 
+  const SymbologyRow& row = *RowOf(job.symbology);
+  PreparedText prepared = GivenText(row, bytes.get(), length);
   LinearSymbol drawn;
-  const LinearJob linear = {job.symbology, checked.get(), length,
-                            DrawsQuietZone(job) ? QuietModulesOf(job) : kNoQuietZone};
-  const Refusal refusal = DrawLinear(linear, 0, symbol.memory, how, drawn);
+  const Refusal refusal = DrawText(job, row, symbol.memory, how, prepared, drawn);
   if (refusal.IsRefused()) return refusal;
   symbol.letters = drawn.letters;
   symbol.columns = static_cast<int>(drawn.length);
   symbol.drawnQuiet = {drawn.quietLeft, drawn.quietRight, 0, 0};
-  symbol.quiet = QuietOf(job);
-  if (job.symbology == BARHATCH_INTERLEAVED_2_OF_5) WarnOfDigits(length, symbol.warnings);
-  const QuietSides standard = StandardQuiet(job);
-  if (symbol.quiet.left < standard.left || symbol.quiet.right < standard.right) {
-    symbol.warnings |= SmallQuietZoneWarning(job);
-  }
-  return ReadBack(job, drawn, {bytes.get(), length}, symbol);
+  Describe(job, prepared, symbol);
+  return ReadBack(job, drawn, prepared, symbol);
 }
 
 }  // namespace barhatch

@@ -1,12 +1,10 @@
 #include "mark/Mark.h"
 
-#include "symbologies/SymbologyTable.h"
-
 namespace barhatch {
 
 Refusal DrawLinear(const LinearJob& job, std::size_t usualCapacity, const Memory& memory,
                    Conformance& how, LinearSymbol& symbol) {
-  const SymbologyRow& row = kSymbologies[job.symbology];
+  const DrawingRow& row = kDeviceDrawings.of[job.symbology];
   std::size_t length = job.length;
   const Refusal refusal = CheckText(row.text, job.text, length, how);
   if (refusal.IsRefused()) return refusal;

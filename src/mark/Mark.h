@@ -11,6 +11,7 @@
 #include "job/Job.h"
 #include "job/Memory.h"
 #include "job/Refusal.h"
+#include "symbologies/SymbologyTable.h"
 
 namespace barhatch {
 
@@ -23,10 +24,19 @@ struct LinearSymbol {
   int quietRight = 0;
 };
 
-// usualCapacity: characters that the letters get room for at least, 0 for no more than they need.
-// A refused job has taken no memory. REQUIRES: job.symbology in 0..22.
+// As the device draws it. usualCapacity: characters that the letters get room for at least, 0 for
+// no more than they need. A refused job has taken no memory. REQUIRES: job.symbology in 0..22.
 Refusal DrawLinear(const LinearJob& job, std::size_t usualCapacity, const Memory& memory,
                    Conformance& how, LinearSymbol& symbol);
+
+// A text that nothing has prepared yet. REQUIRES: PreparationRoom(length) bytes that begin with it.
+PreparedText GivenText(const SymbologyRow& row, char* room, std::size_t length);
+
+// By the book: the text is prepared and then drawn. It stands in `text` as it was drawn afterwards.
+// quietModules: or kNoQuietZone, kStandardQuietZone. A refused job has taken no memory.
+Refusal DrawPublished(const SymbologyRow& row, const LinearOptions& options,
+                      std::int32_t quietModules, const Memory& memory, Conformance& how,
+                      PreparedText& text, LinearSymbol& symbol);
 
 }  // namespace barhatch
 
