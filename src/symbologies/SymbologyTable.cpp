@@ -94,6 +94,12 @@ constexpr SymbologyRow Read(SymbologyRow row, ReadingForm reading) {
   return row;
 }
 
+constexpr SymbologyRow WithQuiet(SymbologyRow row, std::uint8_t left, std::uint8_t right) {
+  row.drawing.quietLeft = left;
+  row.drawing.quietRight = right;
+  return row;
+}
+
 constexpr SymbologyRow Code128(std::int32_t symbology, const char* name, Code128Policy policy) {
   const bool isSetB = policy == Code128Policy::kB;
   SymbologyRow row = Row(symbology, name, isSetB ? kFromSpace : kBytes, Code128Text(policy),
@@ -106,10 +112,7 @@ constexpr SymbologyRow Code128(std::int32_t symbology, const char* name, Code128
 constexpr SymbologyRow EanUpc(SymbologyRow row, EanUpcSymbol symbol, std::uint8_t left,
                               std::uint8_t right) {
   row.drawing.variant = Variant(symbol);
-  row.drawing.quietLeft = left;
-  row.drawing.quietRight = right;
-  row.reading = WithCheckDigit(symbol);
-  return row;
+  return WithQuiet(Read(row, WithCheckDigit(symbol)), left, right);
 }
 
 constexpr SymbologyRow Ean13(std::int32_t symbology, const char* name, const char* accepts,
