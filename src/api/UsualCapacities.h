@@ -1,5 +1,6 @@
 // What the module strings of the exports have always been allocated with, by type, in characters:
-// hosts may have come to rely on the room. A longer string gets what it needs.
+// hosts may have come to rely on the room. A longer string gets what it needs. They stand here and
+// not in the table of symbologies, because they are the exports' own: no mark has such a room.
 #ifndef BARHATCH_API_USUALCAPACITIES_H
 #define BARHATCH_API_USUALCAPACITIES_H
 

@@ -267,6 +267,15 @@ DeviationSet InForce(const BarhatchJob& job) {
   return inForce;
 }
 
+LinearOptions LinearOptionsOf(const BarhatchJob& job) {
+  LinearOptions options;
+  options.check = static_cast<CheckScheme>(job.check);
+  options.addsStartStop = (job.flags & BARHATCH_ADD_START_STOP) != 0;
+  options.permits = (job.flags & BARHATCH_PERMIT) != 0;
+  options.addonGap = job.addon_gap;
+  return options;
+}
+
 std::int32_t QuietModulesOf(const BarhatchJob& job) {
   if (job.quiet < 0.0) return kNoQuietZone;
   const auto whole = static_cast<std::int32_t>(job.quiet);
@@ -288,6 +297,10 @@ Header HeaderOf(const BarhatchJob& job) {
 
 bool DrawsQuietZone(const BarhatchJob& job) {
   return (job.flags & BARHATCH_QUIET_INSIDE) != 0 || job.invert != 0;
+}
+
+std::int32_t DrawnQuietModulesOf(const BarhatchJob& job) {
+  return DrawsQuietZone(job) ? QuietModulesOf(job) : kNoQuietZone;
 }
 
 }  // namespace barhatch

@@ -6,6 +6,7 @@
 #include "job/Deviations.h"
 #include "job/Job.h"
 #include "mark/Message.h"
+#include "symbologies/Preparation.h"
 
 namespace barhatch {
 
@@ -23,6 +24,7 @@ bool IsMatrix(const BarhatchJob& job);
 bool Wants(const BarhatchJob& job, BarhatchWant what);
 bool HasSize(const BarhatchJob& job);  // a whole one; a job that wants strokes has it
 DeviationSet InForce(const BarhatchJob& job);
+LinearOptions LinearOptionsOf(const BarhatchJob& job);
 std::int32_t QuietModulesOf(const BarhatchJob& job);
 double RatioOf(const BarhatchJob& job);
 Header HeaderOf(const BarhatchJob& job);
@@ -33,6 +35,9 @@ std::uint32_t SmallQuietZoneWarning(const BarhatchJob& job);
 // True where the quiet zone is a part of the drawn symbol: it lies inside the size, or it is
 // marked.
 bool DrawsQuietZone(const BarhatchJob& job);
+
+// The modules of it, as QuietModulesOf; kNoQuietZone where it is none.
+std::int32_t DrawnQuietModulesOf(const BarhatchJob& job);
 
 }  // namespace barhatch
 

@@ -40,14 +40,12 @@ void NarrowTokens(const TokenText& text, char* bytes) {
   bytes[text.length] = '\0';
 }
 
-bool IsCode128(std::int32_t symbology) {
-  return symbology >= BARHATCH_CODE_128 && symbology <= BARHATCH_CODE_128_C;
+bool IsCode128(const BarhatchJob& job) {
+  return job.symbology >= BARHATCH_CODE_128 && job.symbology <= BARHATCH_CODE_128_C;
 }
 
-bool IsFunctionOfCode128(Token token) { return token >= kFnc1Token && token <= kFnc3Token; }
-
 bool IsInCode128(Token token, std::uint16_t accepted) {
-  if (!IsByte(token)) return IsFunctionOfCode128(token);
+  if (!IsByte(token)) return token >= kFnc1Token && token <= kFnc3Token;
   return (ClassesOf(static_cast<char>(token)) & accepted) != 0;
 }
 
@@ -73,14 +71,8 @@ std::size_t ReadingOfCode128(const TokenText& text, char* bytes) {
   return length;
 }
 
-QuietSides StandardQuiet(const BarhatchJob& job) {
-  const SymbologyRow& row = kSymbologies[job.symbology];
-  return {row.quietLeft, row.quietRight, 0, 0};
-}
-
-QuietSides QuietOf(const BarhatchJob& job) {
+QuietSides QuietOf(const BarhatchJob& job, const QuietModules& standard) {
   const std::int32_t asked = QuietModulesOf(job);
-  const QuietSides standard = StandardQuiet(job);
   return {QuietZoneOf(asked, standard.left), QuietZoneOf(asked, standard.right), 0, 0};
 }
 
@@ -90,7 +82,7 @@ void WarnOfDigits(std::size_t digits, std::uint32_t& warnings) {
 }
 
 // The letters of the symbol alone, without the quiet zone that is drawn.
-Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const Characters& text,
+Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const PreparedText& text,
                  MarkedSymbol& symbol) {
   const auto quiet = static_cast<std::size_t>(drawn.quietLeft + drawn.quietRight);
   const std::size_t letters = drawn.length - quiet;
@@ -98,82 +90,89 @@ Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const Charac
   symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(letters + 1));
   if (symbol.reading == nullptr || symbol.values == nullptr) return {Reason::kNoMemory, -1, 0};
   SymbolReading reading = {symbol.reading, 0, symbol.values, 0};
-  symbol.isRead = ReadSymbol(job.symbology, drawn.letters + drawn.quietLeft, letters, reading);
+  symbol.isRead = ReadSymbol(job.symbology, CheckScheme::kOwn, drawn.letters + drawn.quietLeft,
+                             letters, reading);
   symbol.readingLength = reading.textLength;
   symbol.valuesCount = reading.valuesCount;
-  const bool isAsGiven = symbol.isRead && IsReadingOfLinear(job.symbology, text,
-                                                            {symbol.reading, symbol.readingLength});
-  if (!isAsGiven) symbol.warnings |= BARHATCH_W_UNREADABLE;
+  const bool isText = symbol.isRead && IsReadingOfLinear(text.reading, {text.room, text.length},
+                                                         {symbol.reading, symbol.readingLength});
+  if (!isText) symbol.warnings |= BARHATCH_W_UNREADABLE;
   return {};
 }
 
-// A symbol that was drawn, and the text that a reader is to report.
-Refusal Finish(const BarhatchJob& job, const LinearSymbol& drawn, const Characters& text,
+// The device may shorten the text that it draws: it does so in a copy, and `text` stays as it was.
+Refusal DrawAsTheDevice(const BarhatchJob& job, const PreparedText& text, const Memory& memory,
+                        Conformance& how, LinearSymbol& drawn) {
+  const Block<char> copy(memory, text.length + 1);
+  if (copy.get() == nullptr) return {Reason::kNoMemory, -1, 0};
+  std::memcpy(copy.get(), text.room, text.length + 1);
+  const LinearJob linear = {job.symbology, copy.get(), text.length, DrawnQuietModulesOf(job)};
+  return DrawLinear(linear, 0, memory, how, drawn);
+}
+
+// What there is to say about a symbol beside its letters.
+void Describe(const BarhatchJob& job, const PreparedText& text, MarkedSymbol& symbol) {
+  symbol.quiet = QuietOf(job, text.quiet);
+  if (text.reading.inPairs) WarnOfDigits(text.length, symbol.warnings);
+  if (symbol.quiet.left < text.quiet.left || symbol.quiet.right < text.quiet.right) {
+    symbol.warnings |= SmallQuietZoneWarning(job);
+  }
+}
+
+Refusal Finish(const BarhatchJob& job, const LinearSymbol& drawn, const PreparedText& text,
                MarkedSymbol& symbol) {
   symbol.letters = drawn.letters;
   symbol.columns = static_cast<int>(drawn.length);
   symbol.drawnQuiet = {drawn.quietLeft, drawn.quietRight, 0, 0};
-  symbol.quiet = QuietOf(job);
-  if (job.symbology == BARHATCH_INTERLEAVED_2_OF_5) WarnOfDigits(text.length, symbol.warnings);
-  const QuietSides standard = StandardQuiet(job);
-  if (symbol.quiet.left < standard.left || symbol.quiet.right < standard.right) {
-    symbol.warnings |= SmallQuietZoneWarning(job);
-  }
+  Describe(job, text, symbol);
   return ReadBack(job, drawn, text, symbol);
 }
 
-std::int32_t DrawnQuietModules(const BarhatchJob& job) {
-  return DrawsQuietZone(job) ? QuietModulesOf(job) : kNoQuietZone;
-}
-
-Refusal MakeOfBytes(const BarhatchJob& job, const Characters& text, Conformance& how,
-                    MarkedSymbol& symbol) {
-  const Block<char> checked(symbol.memory, text.length + 1);  // a check may shorten the text
-  if (checked.get() == nullptr) return {Reason::kNoMemory};
-  std::memcpy(checked.get(), text.text, text.length + 1);
-  LinearSymbol drawn;
-  const LinearJob linear = {job.symbology, checked.get(), text.length, DrawnQuietModules(job)};
-  const Refusal refusal = DrawLinear(linear, 0, symbol.memory, how, drawn);
-  return refusal.IsRefused() ? refusal : Finish(job, drawn, text, symbol);
-}
-
-Refusal MakeOfUnits(const BarhatchJob& job, const InputText& text, std::size_t units,
-                    Conformance& how, MarkedSymbol& symbol) {
+Refusal MakeAsTheDevice(const BarhatchJob& job, const InputText& text, std::size_t units,
+                        Conformance& how, MarkedSymbol& symbol) {
   const Block<char16_t> given(symbol.memory, units + 1);
   const Block<char> bytes(symbol.memory, units + 1);
   if (given.get() == nullptr || bytes.get() == nullptr) return {Reason::kNoMemory};
   text.CopyUnits(given.get(), units);
   std::size_t length = 0;
   const Refusal narrowed = NarrowUnits(given.get(), units, bytes.get(), length, symbol.warnings);
-  return narrowed.IsRefused() ? narrowed : MakeOfBytes(job, {bytes.get(), length}, how, symbol);
+  if (narrowed.IsRefused()) return narrowed;
+  const PreparedText whole = GivenText(*RowOf(job.symbology), bytes.get(), length);
+  LinearSymbol drawn;
+  const Refusal refusal = DrawAsTheDevice(job, whole, symbol.memory, how, drawn);
+  return refusal.IsRefused() ? refusal : Finish(job, drawn, whole, symbol);
 }
 
-Refusal MakeCode128(const BarhatchJob& job, const TokenText& text, MarkedSymbol& symbol) {
-  const Refusal checked = CheckCode128(text, kSymbologies[job.symbology].text.accepted);
+Refusal MakeCode128(const BarhatchJob& job, const TokenText& text, char* room,
+                    MarkedSymbol& symbol) {
+  const SymbologyRow& row = *RowOf(job.symbology);
+  const Refusal checked = CheckCode128(text, row.drawing.text.accepted);
   if (checked.IsRefused()) return checked;
-  const Block<char> expected(symbol.memory, text.length + 1);
-  if (expected.get() == nullptr) return {Reason::kNoMemory};
-  const std::size_t length = ReadingOfCode128(text, expected.get());
   LinearSymbol drawn;
-  const LinearJob linear = {job.symbology, nullptr, 0, DrawnQuietModules(job)};
-  const Refusal refusal = DrawCode128(linear, text, symbol.memory, drawn);
-  return refusal.IsRefused() ? refusal : Finish(job, drawn, {expected.get(), length}, symbol);
+  const Refusal refusal = DrawCode128(row, DrawnQuietModulesOf(job), text, symbol.memory, drawn);
+  if (refusal.IsRefused()) return refusal;
+  return Finish(job, drawn, GivenText(row, room, ReadingOfCode128(text, room)), symbol);
 }
 
 Refusal MakeOfTokens(const BarhatchJob& job, const TokenText& text, Conformance& how,
                      MarkedSymbol& symbol) {
-  if (IsCode128(job.symbology)) return MakeCode128(job, text, symbol);
-  const Block<char> bytes(symbol.memory, text.length + 1);
-  if (bytes.get() == nullptr) return {Reason::kNoMemory};
-  NarrowTokens(text, bytes.get());
-  return MakeOfBytes(job, {bytes.get(), text.length}, how, symbol);
+  const Block<char> room(symbol.memory, PreparationRoom(text.length));
+  if (room.get() == nullptr) return {Reason::kNoMemory};
+  if (IsCode128(job)) return MakeCode128(job, text, room.get(), symbol);
+  NarrowTokens(text, room.get());
+  const SymbologyRow& row = *RowOf(job.symbology);
+  PreparedText prepared = GivenText(row, room.get(), text.length);
+  LinearSymbol drawn;
+  const Refusal refusal = DrawPublished(row, LinearOptionsOf(job), DrawnQuietModulesOf(job),
+                                        symbol.memory, how, prepared, drawn);
+  return refusal.IsRefused() ? refusal : Finish(job, drawn, prepared, symbol);
 }
 
-// A character that is none is refused as what the host gave.
+// A function that the symbology lacks is refused as what it is.
 Refusal AsGiven(Refusal refusal, const TokenText& text) {
-  if (refusal.reason != Reason::kCharacter) return refusal;
-  const Token token = text.tokens[refusal.position];
-  if (!IsCharacter(token)) refusal.reason = Reason::kFunction;
+  const bool isFunction =
+      refusal.reason == Reason::kCharacter && !IsCharacter(text.tokens[refusal.position]);
+  if (isFunction) refusal.reason = Reason::kFunction;
   return refusal;
 }
 
@@ -182,7 +181,7 @@ Refusal AsGiven(Refusal refusal, const TokenText& text) {
 Refusal MakeLinearSymbol(const BarhatchJob& job, const InputText& text, std::size_t count,
                          Conformance& how, MarkedSymbol& symbol) {
   if (count > kLongestLinearText) return {Reason::kLength, -1, FigureOf(count)};
-  if (job.conformance == BARHATCH_DEVICE) return MakeOfUnits(job, text, count, how, symbol);
+  if (job.conformance == BARHATCH_DEVICE) return MakeAsTheDevice(job, text, count, how, symbol);
   const Block<Token> tokens(symbol.memory, count + 1);
   if (tokens.get() == nullptr) return {Reason::kNoMemory};
   text.CopyTokens(tokens.get(), count);

@@ -4,14 +4,9 @@
 
 #include <cstdint>
 
-namespace barhatch {
+#include "symbologies/SymbologyTable.h"
 
-struct SymbologyName {
-  std::int32_t symbology;  // BarhatchSymbology
-  const char* name;
-  const char* accepts;
-  const char* deviceAccepts;  // where that is less; else null
-};
+namespace barhatch {
 
 // Null for a number that names no symbology.
 const SymbologyName* NameOf(std::int32_t symbology);

@@ -2,8 +2,6 @@
 
 #include <cstring>
 
-#include "barhatch_mark.h"
-
 namespace barhatch {
 
 namespace {
@@ -12,28 +10,8 @@ constexpr char kGs = '\x1D';
 constexpr char kEnvelopeEnd[] = "\x1E\x04";
 constexpr std::size_t kEnvelopeHead = 7;  // [)> RS 05 GS
 
-struct EanUpcDigits {
-  std::int32_t symbology;
-  std::size_t main;  // digits of the text in front of the add-on's
-};
-
-constexpr EanUpcDigits kEanUpcDigits[] = {
-    {BARHATCH_EAN_13, 12},         {BARHATCH_UPC_A, 11},          {BARHATCH_UPC_E, 7},
-    {BARHATCH_EAN_8, 7},           {BARHATCH_UPC_A_ADDON_2, 11},  {BARHATCH_UPC_A_ADDON_5, 11},
-    {BARHATCH_EAN_13_ADDON_2, 12}, {BARHATCH_EAN_13_ADDON_5, 12}, {BARHATCH_EAN_8_ADDON_2, 7},
-    {BARHATCH_EAN_8_ADDON_5, 7},   {BARHATCH_UPC_E_ADDON_2, 7},   {BARHATCH_UPC_E_ADDON_5, 7},
-};
-
-// 0 for another symbology.
-std::size_t MainDigitsOf(std::int32_t symbology) {
-  for (const EanUpcDigits& row : kEanUpcDigits) {
-    if (row.symbology == symbology) return row.main;
-  }
-  return 0;
-}
-
-bool IsSame(const Characters& a, const char* text, std::size_t length) {
-  return a.length == length && std::memcmp(a.text, text, length) == 0;
+bool IsSame(const Characters& a, const Characters& b) {
+  return a.length == b.length && std::memcmp(a.text, b.text, a.length) == 0;
 }
 
 bool IsReadingOfEanUpc(const Characters& text, std::size_t main, const Characters& reading) {
@@ -89,16 +67,14 @@ bool TakeText(Rest& rest, const TextUnits& text, bool hasFnc1) {
 
 }  // namespace
 
-bool IsReadingOfLinear(std::int32_t symbology, const Characters& text, const Characters& reading) {
-  const std::size_t main = MainDigitsOf(symbology);
-  if (main > 0) return IsReadingOfEanUpc(text, main, reading);
-  if (symbology == BARHATCH_CODABAR) {
-    return text.length >= 2 && IsSame(reading, text.text + 1, text.length - 2);
-  }
-  const bool hasZero = symbology == BARHATCH_INTERLEAVED_2_OF_5 && text.length % 2 != 0;
-  if (!hasZero) return IsSame(reading, text.text, text.length);
-  return reading.length == text.length + 1 && reading.text[0] == '0' &&
-         std::memcmp(reading.text + 1, text.text, text.length) == 0;
+bool IsReadingOfLinear(const ReadingForm& form, const Characters& text, const Characters& reading) {
+  const std::size_t leftOut = std::size_t{form.inFront} + form.behind;
+  if (text.length < leftOut) return false;
+  const Characters rest = {text.text + form.inFront, text.length - leftOut};
+  if (form.mainDigits > 0) return IsReadingOfEanUpc(rest, form.mainDigits, reading);
+  if (!form.inPairs || rest.length % 2 == 0) return IsSame(reading, rest);
+  return reading.length > 0 && reading.text[0] == '0' &&
+         IsSame({reading.text + 1, reading.length - 1}, rest);
 }
 
 bool IsReadingOfMatrix(const TextUnits& text, Header header, const Characters& reading) {

@@ -99,7 +99,7 @@ void SayLength(const BarhatchJob& job, const SymbologyName& name, std::int32_t g
                Message& message) {
   const std::int32_t longest = job.symbology == BARHATCH_DATA_MATRIX
                                    ? static_cast<std::int32_t>(kMaxDataMatrixText)
-                                   : kSymbologies[job.symbology].text.longest;
+                                   : RowOf(job.symbology)->drawing.text.longest;
   message << name.name << " takes ";
   if (given > longest && longest > 17) {
     message << "at most " << longest << " characters, " << given << " given";

@@ -115,7 +115,8 @@ bool IsStart(int value) { return value >= kCode128StartA && value <= kCode128Sta
 
 }  // namespace
 
-bool ReadCode128(const char* letters, std::size_t length, int /*variant*/, SymbolReading& reading) {
+bool ReadCode128(const char* letters, std::size_t length, ReaderSetting /*setting*/,
+                 SymbolReading& reading) {
   if (length < kStopModules || (length - kStopModules) % kModules != 0) return false;
   const std::size_t stop = length - kStopModules;
   if (!ReadValues(letters, stop, reading) || !HasStop(letters + stop)) return false;

@@ -124,8 +124,9 @@ bool ReadRestOf(const EanUpcLayout& layout, const char* letters, std::size_t len
 
 }  // namespace
 
-bool ReadEan13UpcA(const char* letters, std::size_t length, int variant, SymbolReading& reading) {
-  const EanUpcLayout& layout = kEanUpcLayouts[variant];
+bool ReadEan13UpcA(const char* letters, std::size_t length, ReaderSetting setting,
+                   SymbolReading& reading) {
+  const EanUpcLayout& layout = kEanUpcLayouts[setting.variant];
   if (!HasRoom(layout, length)) return false;
   EanUpcLetters main(letters);
   Digits digits{};
@@ -143,8 +144,9 @@ bool ReadEan13UpcA(const char* letters, std::size_t length, int variant, SymbolR
   return HasCheckDigit(digits.digits, 13) && ReadRestOf(layout, letters, length, reading);
 }
 
-bool ReadEan8(const char* letters, std::size_t length, int variant, SymbolReading& reading) {
-  const EanUpcLayout& layout = kEanUpcLayouts[variant];
+bool ReadEan8(const char* letters, std::size_t length, ReaderSetting setting,
+              SymbolReading& reading) {
+  const EanUpcLayout& layout = kEanUpcLayouts[setting.variant];
   if (!HasRoom(layout, length)) return false;
   EanUpcLetters main(letters);
   Digits digits{};
@@ -158,8 +160,9 @@ bool ReadEan8(const char* letters, std::size_t length, int variant, SymbolReadin
   return HasCheckDigit(digits.digits, 8) && ReadRestOf(layout, letters, length, reading);
 }
 
-bool ReadUpcE(const char* letters, std::size_t length, int variant, SymbolReading& reading) {
-  const EanUpcLayout& layout = kEanUpcLayouts[variant];
+bool ReadUpcE(const char* letters, std::size_t length, ReaderSetting setting,
+              SymbolReading& reading) {
+  const EanUpcLayout& layout = kEanUpcLayouts[setting.variant];
   if (!HasRoom(layout, length)) return false;
   EanUpcLetters main(letters);
   Digits digits{};

@@ -7,39 +7,54 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "symbologies/Preparation.h"
 #include "symbologies/SymbologyReaders.h"
 
 namespace barhatch {
 
-// variant: that of the encoder of the family; its header says which symbologies share it.
-using Reader = bool (*)(const char* letters, std::size_t length, int variant,
+// What a reader is set to.
+struct ReaderSetting {
+  int variant;        // of the encoder of the family; its header says which symbologies share it
+  CheckScheme check;  // whose characters it tests
+};
+
+using Reader = bool (*)(const char* letters, std::size_t length, ReaderSetting setting,
                         SymbolReading& reading);
 
 // TwoWidthReaders.cpp: elements that are wide or narrow.
 //
 // Starts and stops with A to D, which stand nowhere else.
-bool ReadCodabar(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadCodabar(const char* letters, std::size_t length, ReaderSetting setting,
+                 SymbolReading& reading);
 // From the start character to the first stop character, whatever stands behind it.
-bool ReadCode39(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadCode39(const char* letters, std::size_t length, ReaderSetting setting,
+                SymbolReading& reading);
 // C and K where more than ten data characters are left in front of them, else C alone.
-bool ReadCode11(const char* letters, std::size_t length, int variant, SymbolReading& reading);
-bool ReadInterleaved2of5(const char* letters, std::size_t length, int variant,
+bool ReadCode11(const char* letters, std::size_t length, ReaderSetting setting,
+                SymbolReading& reading);
+bool ReadInterleaved2of5(const char* letters, std::size_t length, ReaderSetting setting,
                          SymbolReading& reading);
 
 // ModuleReaders.cpp: single modules, characters of one size.
 //
-bool ReadCode93(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadCode93(const char* letters, std::size_t length, ReaderSetting setting,
+                SymbolReading& reading);
 // One modulo-10 check digit.
-bool ReadMsi(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadMsi(const char* letters, std::size_t length, ReaderSetting setting,
+             SymbolReading& reading);
 
 // Code128Reader.cpp
-bool ReadCode128(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadCode128(const char* letters, std::size_t length, ReaderSetting setting,
+                 SymbolReading& reading);
 
 // EanUpcReader.cpp: the symbol that the variant names, an EanUpcSymbol, with its add-on. UPC-A is
 // EAN-13 with a first digit 0, as which it is read for the types of EAN-13.
-bool ReadEan13UpcA(const char* letters, std::size_t length, int variant, SymbolReading& reading);
-bool ReadEan8(const char* letters, std::size_t length, int variant, SymbolReading& reading);
-bool ReadUpcE(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadEan13UpcA(const char* letters, std::size_t length, ReaderSetting setting,
+                   SymbolReading& reading);
+bool ReadEan8(const char* letters, std::size_t length, ReaderSetting setting,
+              SymbolReading& reading);
+bool ReadUpcE(const char* letters, std::size_t length, ReaderSetting setting,
+              SymbolReading& reading);
 
 inline void AddValue(SymbolReading& reading, int value) {
   reading.values[reading.valuesCount++] = static_cast<std::uint8_t>(value);

@@ -53,13 +53,15 @@ bool AddCode93Text(SymbolReading& reading, std::size_t count) {
 
 }  // namespace
 
-bool ReadCode93(const char* letters, std::size_t length, int /*variant*/, SymbolReading& reading) {
+bool ReadCode93(const char* letters, std::size_t length, ReaderSetting /*setting*/,
+                SymbolReading& reading) {
   if (!ReadCode93Values(letters, length, reading)) return false;
   if (reading.valuesCount < 3 || !HasCAndK(reading)) return false;
   return AddCode93Text(reading, reading.valuesCount - 2);
 }
 
-bool ReadMsi(const char* letters, std::size_t length, int /*variant*/, SymbolReading& reading) {
+bool ReadMsi(const char* letters, std::size_t length, ReaderSetting /*setting*/,
+             SymbolReading& reading) {
   constexpr std::size_t kStart = sizeof kMsiStart - 1;
   constexpr std::size_t kStop = sizeof kMsiStop - 1;
   if (length < kStart + kStop || !AreModules(letters, kMsiStart)) return false;

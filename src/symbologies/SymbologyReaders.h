@@ -28,6 +28,8 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "symbologies/Preparation.h"
+
 namespace barhatch {
 
 // The caller owns both arrays. Their lengths are set by ReadSymbol.
@@ -40,11 +42,11 @@ struct SymbolReading {
 
 // letters: a module string without quiet zones, any bytes and any number of them. The symbol must
 // fill them from the first bar to the last; of a type with add-on the add-on must be there. False
-// for a symbology outside 0..22 and where a standard reader finds no symbol of the type, or one
-// without characters: the text is empty then, and values are given as far as they were recognised.
-// Code 128 of function characters alone is a symbol whose text is empty. Allocates nothing; the
-// time grows with the number of letters.
-bool ReadSymbol(std::int32_t symbology, const char* letters, std::size_t length,
+// for a symbology that there is none and where a standard reader finds no symbol of the type, or
+// one without characters: the text is empty then, and values are given as far as they were
+// recognised. Code 128 of function characters alone is a symbol whose text is empty. Allocates
+// nothing; the time grows with the number of letters.
+bool ReadSymbol(std::int32_t symbology, CheckScheme check, const char* letters, std::size_t length,
                 SymbolReading& reading);
 
 }  // namespace barhatch

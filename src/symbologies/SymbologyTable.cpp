@@ -34,6 +34,11 @@ constexpr TextRule WithMore(TextRule rule, std::uint16_t more, Deviation by, Dev
   return rule;
 }
 
+constexpr TextRule WithShortest(TextRule rule, std::uint16_t shortest) {
+  rule.shortest = shortest;
+  return rule;
+}
+
 constexpr TextRule WithForm(TextRule rule, FormCheck form) {
   rule.form = form;
   return rule;
@@ -47,9 +52,7 @@ constexpr TextRule WithPercentPairs(TextRule rule, Deviation by) {
 constexpr TextRule Digits(EanUpcSymbol symbol) {
   const EanUpcLayout& layout = EanUpcLayoutOf(symbol);
   const auto digits = static_cast<std::uint16_t>(layout.mainDigits + layout.addonDigits);
-  TextRule rule = Rule(kClassDigits, digits, kNoDeviation);
-  rule.shortest = digits;
-  return rule;
+  return WithShortest(Rule(kClassDigits, digits, kNoDeviation), digits);
 }
 
 // The device's choice of code sets has neither FNC4 nor shift; set B alone has no control
@@ -65,73 +68,152 @@ constexpr TextRule Code128Text(Code128Policy policy) {
 
 constexpr std::uint8_t Variant(Code128Policy policy) { return static_cast<std::uint8_t>(policy); }
 constexpr std::uint8_t Variant(EanUpcSymbol symbol) { return static_cast<std::uint8_t>(symbol); }
-constexpr std::uint8_t Variant(MsiCheckScheme scheme) { return static_cast<std::uint8_t>(scheme); }
 
-constexpr SymbologyRow Ean13UpcA(EanUpcSymbol symbol, std::uint8_t left, std::uint8_t right) {
-  return {Digits(symbol), EncodeEan13UpcA, Variant(symbol), left, right};
+constexpr char kCode39Text[] = "digits, A-Z, - . $ / + % and space";
+constexpr char kCodabarText[] = "digits and - $ : / . + between two of A B C D T N * E";
+constexpr char kBytes[] = "characters from 0 to 255";
+constexpr char kFromSpace[] = "characters from 32 to 127";
+constexpr char kAscii[] = "characters from 0 to 127";
+constexpr char kUpcEText[] = "7 digits: number system and six";
+
+constexpr ReadingForm kAsDrawn = {};
+constexpr ReadingForm kBetweenTheEnds = {1, 1, 0, false};
+constexpr ReadingForm kInPairs = {0, 0, 0, true};
+constexpr ReadingForm WithCheckDigit(EanUpcSymbol symbol) {
+  return {0, 0, static_cast<std::uint8_t>(EanUpcLayoutOf(symbol).mainDigits), false};
 }
 
-constexpr SymbologyRow Ean8(EanUpcSymbol symbol, FormCheck form) {
-  return {WithForm(Digits(symbol), form), EncodeEan8, Variant(symbol), 7, 7};
+// A row whose characters are as the encoder draws them, with 10 modules of quiet zone.
+constexpr SymbologyRow Row(std::int32_t symbology, const char* name, const char* accepts,
+                           const TextRule& text, Encoder encode, Reader read) {
+  return {symbology, {name, accepts, nullptr}, {text, encode, 0, 10, 10}, read, kAsDrawn, nullptr};
 }
 
-constexpr SymbologyRow UpcE(EanUpcSymbol symbol) {
-  return {WithForm(Digits(symbol), CheckUpcEForm), EncodeUpcE, Variant(symbol), 9, 7};
+constexpr SymbologyRow Read(SymbologyRow row, ReadingForm reading) {
+  row.reading = reading;
+  return row;
 }
 
-constexpr SymbologyRow Code128(Code128Policy policy) {
-  return {Code128Text(policy), EncodeCode128, Variant(policy), 10, 10};
+constexpr SymbologyRow WithQuiet(SymbologyRow row, std::uint8_t left, std::uint8_t right) {
+  row.drawing.quietLeft = left;
+  row.drawing.quietRight = right;
+  return row;
+}
+
+constexpr SymbologyRow Code128(std::int32_t symbology, const char* name, Code128Policy policy) {
+  const bool isSetB = policy == Code128Policy::kB;
+  SymbologyRow row = Row(symbology, name, isSetB ? kFromSpace : kBytes, Code128Text(policy),
+                         EncodeCode128, ReadCode128);
+  row.name.deviceAccepts = isSetB ? nullptr : kFromSpace;
+  row.drawing.variant = Variant(policy);
+  return row;
+}
+
+constexpr SymbologyRow EanUpc(SymbologyRow row, EanUpcSymbol symbol, std::uint8_t left,
+                              std::uint8_t right) {
+  row.drawing.variant = Variant(symbol);
+  return WithQuiet(Read(row, WithCheckDigit(symbol)), left, right);
+}
+
+constexpr SymbologyRow Ean13(std::int32_t symbology, const char* name, const char* accepts,
+                             EanUpcSymbol symbol) {
+  return EanUpc(Row(symbology, name, accepts, Digits(symbol), EncodeEan13UpcA, ReadEan13UpcA),
+                symbol, 11, 7);
+}
+
+constexpr SymbologyRow UpcA(std::int32_t symbology, const char* name, const char* accepts,
+                            EanUpcSymbol symbol) {
+  return EanUpc(Row(symbology, name, accepts, Digits(symbol), EncodeEan13UpcA, ReadEan13UpcA),
+                symbol, 9, 9);
+}
+
+constexpr SymbologyRow Ean8(std::int32_t symbology, const char* name, const char* accepts,
+                            EanUpcSymbol symbol) {
+  const FormCheck form = symbol == EanUpcSymbol::kEan8 ? nullptr : CheckEan8AddonForm;
+  return EanUpc(Row(symbology, name, accepts, WithForm(Digits(symbol), form), EncodeEan8, ReadEan8),
+                symbol, 7, 7);
+}
+
+constexpr SymbologyRow UpcE(std::int32_t symbology, const char* name, const char* accepts,
+                            EanUpcSymbol symbol) {
+  return EanUpc(
+      Row(symbology, name, accepts, WithForm(Digits(symbol), CheckUpcEForm), EncodeUpcE, ReadUpcE),
+      symbol, 9, 7);
+}
+
+constexpr TextRule kCodabarRule = WithForm(Rule(kCodabarSet, 3116, kNoDeviation), CheckCodabarForm);
+constexpr TextRule kCode39Rule =
+    WithPercentPairs(WithMore(Rule(kCode39Set, 3114, Deviation::kD39_6), kClassAsterisk,
+                              Deviation::kD39_4, Deviation::kD39_4),
+                     Deviation::kD39_5);
+constexpr TextRule kCode93Rule = Rule(kCode39Set, kLongestLinearText, Deviation::kD93_4);
+constexpr TextRule kMsiRule = Rule(kClassDigits, kLongestLinearText, Deviation::kDMSI_1);
+constexpr TextRule kCode11Rule =
+    Rule(kClassDigits | kClassDash, kLongestLinearText, Deviation::kD11_2);
+constexpr TextRule kItfRule = Rule(kClassDigits, kLongestLinearText, Deviation::kD25_2);
+constexpr TextRule kCode93FullRule =
+    WithMore(Rule(kClassAscii, kLongestLinearText, Deviation::kD93_4), kClassAbove127,
+             Deviation::kD93_2, Deviation::kD93_3);
+constexpr TextRule kItf14Rule = WithShortest(Rule(kClassDigits, 14, kNoDeviation), 13);
+constexpr TextRule kCode39FullRule = Rule(kClassAscii, 3114, kNoDeviation);
+
+// clang-format off
+constexpr SymbologyRow kRows[] = {
+    Read(Row(0, "Codabar", kCodabarText, kCodabarRule, EncodeCodabar, ReadCodabar), kBetweenTheEnds),
+    Row(1, "Code 39", kCode39Text, kCode39Rule, EncodeCode39, ReadCode39),
+    Row(2, "Code 93", kCode39Text, kCode93Rule, EncodeCode93, ReadCode93),
+    Ean13(3, "EAN-13", "12 digits", EanUpcSymbol::kEan13),
+    Row(4, "MSI", "digits", kMsiRule, EncodeMsi, ReadMsi),
+    Code128(5, "Code 128", Code128Policy::kAuto),
+    Code128(6, "Code 128 from set A", Code128Policy::kFromA),
+    Code128(7, "Code 128 set B", Code128Policy::kB),
+    Code128(8, "Code 128 from set C", Code128Policy::kFromC),
+    UpcA(9, "UPC-A", "11 digits", EanUpcSymbol::kUpcA),
+    UpcE(10, "UPC-E", kUpcEText, EanUpcSymbol::kUpcE),
+    Row(11, "Code 11", "digits and -", kCode11Rule, EncodeCode11, ReadCode11),
+    Ean8(12, "EAN-8", "7 digits", EanUpcSymbol::kEan8),
+    UpcA(13, "UPC-A with 2-digit add-on", "13 digits: 11 and 2", EanUpcSymbol::kUpcAAddon2),
+    UpcA(14, "UPC-A with 5-digit add-on", "16 digits: 11 and 5", EanUpcSymbol::kUpcAAddon5),
+    Ean13(15, "EAN-13 with 2-digit add-on", "14 digits: 12 and 2", EanUpcSymbol::kEan13Addon2),
+    Ean13(16, "EAN-13 with 5-digit add-on", "17 digits: 12 and 5", EanUpcSymbol::kEan13Addon5),
+    Ean8(17, "EAN-8 with 2-digit add-on", "9 digits: 7 and 2", EanUpcSymbol::kEan8Addon2),
+    Ean8(18, "EAN-8 with 5-digit add-on", "12 digits: 7 and 5", EanUpcSymbol::kEan8Addon5),
+    UpcE(19, "UPC-E with 2-digit add-on", "9 digits: 7 and 2", EanUpcSymbol::kUpcEAddon2),
+    UpcE(20, "UPC-E with 5-digit add-on", "12 digits: 7 and 5", EanUpcSymbol::kUpcEAddon5),
+    Read(Row(21, "Interleaved 2 of 5", "digits", kItfRule, EncodeInterleaved2of5, ReadInterleaved2of5), kInPairs),
+    Row(22, "Code 93, full ASCII", kAscii, kCode93FullRule, EncodeCode93, ReadCode93),
+    Read(Row(101, "ITF-14", "13 or 14 digits", kItf14Rule, EncodeInterleaved2of5, ReadInterleaved2of5), kInPairs),
+    Row(102, "Code 39, full ASCII", kAscii, kCode39FullRule, EncodeCode39, ReadCode39),
+};
+// clang-format on
+constexpr int kRowCount = sizeof kRows / sizeof *kRows;
+
+constexpr bool NumbersAscendFromThoseOfTheDevice() {
+  for (int row = 0; row < kRowCount; ++row) {
+    if (row < kDeviceTypes && kRows[row].symbology != row) return false;
+    if (row > 0 && kRows[row].symbology <= kRows[row - 1].symbology) return false;
+  }
+  return kRowCount >= kDeviceTypes;
+}
+static_assert(NumbersAscendFromThoseOfTheDevice(), "the type of the device is the index");
+
+constexpr DeviceDrawings DrawingsOfTheDevice() {
+  DeviceDrawings drawings{};
+  for (int type = 0; type < kDeviceTypes; ++type) drawings.of[type] = kRows[type].drawing;
+  return drawings;
 }
 
 }  // namespace
 
-constexpr SymbologyRow kSymbologies[kSymbologyCount] = {
-    // 0 Codabar
-    {WithForm(Rule(kCodabarSet, 3116, kNoDeviation), CheckCodabarForm), EncodeCodabar, 0, 10, 10},
-    // 1 Code 39
-    {WithPercentPairs(WithMore(Rule(kCode39Set, 3114, Deviation::kD39_6), kClassAsterisk,
-                               Deviation::kD39_4, Deviation::kD39_4),
-                      Deviation::kD39_5),
-     EncodeCode39, 0, 10, 10},
-    // 2 Code 93
-    {Rule(kCode39Set, kLongestLinearText, Deviation::kD93_4), EncodeCode93, 0, 10, 10},
-    // 3 EAN-13
-    Ean13UpcA(EanUpcSymbol::kEan13, 11, 7),
-    // 4 MSI
-    {Rule(kClassDigits, kLongestLinearText, Deviation::kDMSI_1), EncodeMsi,
-     Variant(MsiCheckScheme::kModulo10), 10, 10},
-    // 5 to 8 Code 128
-    Code128(Code128Policy::kAuto),
-    Code128(Code128Policy::kFromA),
-    Code128(Code128Policy::kB),
-    Code128(Code128Policy::kFromC),
-    // 9 UPC-A
-    Ean13UpcA(EanUpcSymbol::kUpcA, 9, 9),
-    // 10 UPC-E
-    UpcE(EanUpcSymbol::kUpcE),
-    // 11 Code 11
-    {Rule(kClassDigits | kClassDash, kLongestLinearText, Deviation::kD11_2), EncodeCode11, 0, 10,
-     10},
-    // 12 EAN-8
-    Ean8(EanUpcSymbol::kEan8, nullptr),
-    // 13, 14 UPC-A with add-on
-    Ean13UpcA(EanUpcSymbol::kUpcAAddon2, 9, 9),
-    Ean13UpcA(EanUpcSymbol::kUpcAAddon5, 9, 9),
-    // 15, 16 EAN-13 with add-on
-    Ean13UpcA(EanUpcSymbol::kEan13Addon2, 11, 7),
-    Ean13UpcA(EanUpcSymbol::kEan13Addon5, 11, 7),
-    // 17, 18 EAN-8 with add-on
-    Ean8(EanUpcSymbol::kEan8Addon2, CheckEan8AddonForm),
-    Ean8(EanUpcSymbol::kEan8Addon5, CheckEan8AddonForm),
-    // 19, 20 UPC-E with add-on
-    UpcE(EanUpcSymbol::kUpcEAddon2),
-    UpcE(EanUpcSymbol::kUpcEAddon5),
-    // 21 Interleaved 2 of 5
-    {Rule(kClassDigits, kLongestLinearText, Deviation::kD25_2), EncodeInterleaved2of5, 0, 10, 10},
-    // 22 Code 93, full ASCII
-    {WithMore(Rule(kClassAscii, kLongestLinearText, Deviation::kD93_4), kClassAbove127,
-              Deviation::kD93_2, Deviation::kD93_3),
-     EncodeCode93, 0, 10, 10},
-};
+constexpr DeviceDrawings kDeviceDrawings = DrawingsOfTheDevice();
+
+SymbologyRows AllSymbologies() { return {kRows, kRows + kRowCount}; }
+
+const SymbologyRow* RowOf(std::int32_t symbology) {
+  for (const SymbologyRow& row : kRows) {
+    if (row.symbology == symbology) return &row;
+  }
+  return nullptr;
+}
 
 }  // namespace barhatch

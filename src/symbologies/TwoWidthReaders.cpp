@@ -70,7 +70,8 @@ bool ReadCode11Values(const char* letters, std::size_t length, SymbolReading& re
 
 }  // namespace
 
-bool ReadCodabar(const char* letters, std::size_t length, int /*variant*/, SymbolReading& reading) {
+bool ReadCodabar(const char* letters, std::size_t length, ReaderSetting /*setting*/,
+                 SymbolReading& reading) {
   if (!AreWholeCharacters<kCodabarElements>(length)) return false;
   for (std::size_t at = 0; at < length; at += kCodabarElements + 1) {
     const int value = RowAt<kCodabarElements, CodabarValue>(letters, length, at);
@@ -83,7 +84,8 @@ bool ReadCodabar(const char* letters, std::size_t length, int /*variant*/, Symbo
   return true;
 }
 
-bool ReadCode39(const char* letters, std::size_t length, int /*variant*/, SymbolReading& reading) {
+bool ReadCode39(const char* letters, std::size_t length, ReaderSetting /*setting*/,
+                SymbolReading& reading) {
   if (!AreWholeCharacters<kCode39Elements>(length)) return false;
   for (std::size_t at = 0; at < length; at += kCode39Elements + 1) {
     const int row = RowAt<kCode39Elements, Code39Row>(letters, length, at);
@@ -97,7 +99,8 @@ bool ReadCode39(const char* letters, std::size_t length, int /*variant*/, Symbol
   return false;
 }
 
-bool ReadCode11(const char* letters, std::size_t length, int /*variant*/, SymbolReading& reading) {
+bool ReadCode11(const char* letters, std::size_t length, ReaderSetting /*setting*/,
+                SymbolReading& reading) {
   if (!ReadCode11Values(letters, length, reading)) return false;
   std::size_t count = reading.valuesCount;
   const bool hasK = count > kCode11LongestTextWithC + 2;
@@ -115,7 +118,7 @@ bool ReadCode11(const char* letters, std::size_t length, int /*variant*/, Symbol
   return true;
 }
 
-bool ReadInterleaved2of5(const char* letters, std::size_t length, int /*variant*/,
+bool ReadInterleaved2of5(const char* letters, std::size_t length, ReaderSetting /*setting*/,
                          SymbolReading& reading) {
   constexpr std::size_t kStart = sizeof kInterleaved2of5Start - 1;
   constexpr std::size_t kStop = sizeof kInterleaved2of5Stop - 1;

@@ -5,12 +5,14 @@
 #include <string>
 
 #include "barhatch_mark.h"
+#include "symbologies/SymbologyTable.h"
 
 namespace barhatch {
 namespace {
 
 bool IsLinear(std::int32_t symbology, const std::string& text, const std::string& reading) {
-  return IsReadingOfLinear(symbology, {text.data(), text.size()}, {reading.data(), reading.size()});
+  return IsReadingOfLinear(RowOf(symbology)->reading, {text.data(), text.size()},
+                           {reading.data(), reading.size()});
 }
 
 bool IsMatrix(const std::u16string& text, const std::string& reading,

@@ -51,7 +51,9 @@ std::optional<std::string> ReadBack(int type, const std::string& text) {
   std::string room(letters->size() + 1, '\0');
   std::vector<std::uint8_t> values(letters->size());
   SymbolReading reading = {room.data(), 0, values.data(), 0};
-  if (!ReadSymbol(type, letters->data(), letters->size(), reading)) return std::nullopt;
+  if (!ReadSymbol(type, CheckScheme::kOwn, letters->data(), letters->size(), reading)) {
+    return std::nullopt;
+  }
   return std::string(reading.text, reading.textLength);
 }
 

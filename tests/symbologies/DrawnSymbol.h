@@ -38,9 +38,37 @@ inline std::optional<std::string> DrawnByTheDevice(std::int32_t type, const std:
   return Draw(type, text.c_str(), quietZone, DeviationSet::All()).letters;
 }
 
+// By the book, with the text as it was drawn.
+struct PublishedSymbol {
+  Refusal refusal;
+  std::optional<std::string> letters;
+  std::string text;
+  ReadingForm reading;
+};
+
+inline PublishedSymbol DrawByTheBook(std::int32_t symbology, const std::string& text,
+                                     const LinearOptions& options = {},
+                                     QuietZone quietZone = QuietZone::kNone) {
+  std::string room(PreparationRoom(text.size()), '?');
+  room.replace(0, text.size() + 1, text.c_str(), text.size() + 1);
+  Conformance how = Conformance::Published();
+  const SymbologyRow& row = *RowOf(symbology);
+  PreparedText prepared = GivenText(row, room.data(), text.size());
+  LinearSymbol symbol;
+  PublishedSymbol drawn;
+  drawn.refusal =
+      DrawPublished(row, options, quietZone == QuietZone::kNone ? kNoQuietZone : kStandardQuietZone,
+                    RuntimeMemory(), how, prepared, symbol);
+  drawn.text = std::string(prepared.room, prepared.length);
+  drawn.reading = prepared.reading;
+  if (symbol.letters != nullptr) drawn.letters = std::string(symbol.letters, symbol.length);
+  RuntimeMemory().Release(symbol.letters);
+  return drawn;
+}
+
 inline std::optional<std::string> DrawnByTheBook(std::int32_t type, const std::string& text,
                                                  QuietZone quietZone = QuietZone::kNone) {
-  return Draw(type, text, quietZone, DeviationSet()).letters;
+  return DrawByTheBook(type, text, {}, quietZone).letters;
 }
 
 }  // namespace barhatch::test

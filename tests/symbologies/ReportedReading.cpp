@@ -100,7 +100,7 @@ ReportedReading Report(std::int32_t type, const std::string& letters) {
   std::vector<std::uint8_t> values(letters.size());
   const std::vector<char> drawn(letters.begin(), letters.end());
   SymbolReading reading = {text.data(), 0, values.data(), 0};
-  const bool isRead = ReadSymbol(type, drawn.data(), drawn.size(), reading);
+  const bool isRead = ReadSymbol(type, CheckScheme::kOwn, drawn.data(), drawn.size(), reading);
   ReportedReading reported;
   reported.values.assign(values.begin(),
                          values.begin() + static_cast<std::ptrdiff_t>(reading.valuesCount));

@@ -44,7 +44,7 @@ class PublishedTexts {
       : type_(type), texts_(static_cast<std::uint32_t>(type)) {}
 
   std::string Next() {
-    const TextRule& rule = kSymbologies[type_].text;
+    const TextRule& rule = RowOf(type_)->drawing.text;
     if (type_ == 0) return Codabar();
     if (type_ == 1 || type_ == 2) return texts_.Next(kCode39, 1, 40);
     if (type_ == 22) return texts_.Next(Bytes(0, 127), 1, 40);
@@ -82,7 +82,7 @@ std::string DeviceText(std::int32_t type, test::SeededTexts& texts, PublishedTex
 }
 
 class OfEveryType : public testing::TestWithParam<std::int32_t> {};
-INSTANTIATE_TEST_SUITE_P(SymbologyReaders, OfEveryType, testing::Range(0, int{kSymbologyCount}));
+INSTANTIATE_TEST_SUITE_P(SymbologyReaders, OfEveryType, testing::Range(0, int{kDeviceTypes}));
 
 // How the device writes ten characters of Code 11 is no prediction: see SymbologyReadersTest.
 Text Predicted(std::int32_t type, const std::string& text) {
@@ -167,7 +167,7 @@ TEST_P(OfEveryType, WhatStandsBehindTheLettersIsNotRead) {
   std::vector<std::uint8_t> values(letters.size());
   for (std::size_t length = 0; length < letters.size(); ++length) {
     SymbolReading reading = {text.data(), 0, values.data(), 0};
-    const bool isRead = ReadSymbol(type, letters.data(), length, reading);
+    const bool isRead = ReadSymbol(type, CheckScheme::kOwn, letters.data(), length, reading);
     const auto alone = Report(type, letters.substr(0, length));
     ASSERT_EQ(isRead, alone.text.has_value()) << length;
     ASSERT_EQ(reading.valuesCount, alone.values.size()) << length;

@@ -21,11 +21,13 @@ void EncodeTally(const Characters& text, int /*variant*/, Conformance& /*how*/, 
   }
 }
 
-bool ReadTally(const char* letters, std::size_t length, int /*variant*/, SymbolReading& reading) {
+bool ReadTally(const char* letters, std::size_t length, ReaderSetting /*setting*/,
+               SymbolReading& reading) {
   int bars = 0;
   for (std::size_t i = 0; i < length; ++i) {
     if (letters[i] == kNarrowBar) ++bars;
-    const bool isEnd = i + 1 == length || (letters[i] == kNarrowSpace && letters[i + 1] == letters[i]);
+    const bool isEnd =
+        i + 1 == length || (letters[i] == kNarrowSpace && letters[i + 1] == letters[i]);
     if (!isEnd) continue;
     AddDigit(reading, bars % 10);
     bars = 0;

@@ -11,7 +11,8 @@ namespace barhatch {
 // REQUIRES: digits. A 0 is drawn as ten bars. There is one variant.
 void EncodeTally(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
 
-bool ReadTally(const char* letters, std::size_t length, int variant, SymbolReading& reading);
+bool ReadTally(const char* letters, std::size_t length, ReaderSetting setting,
+               SymbolReading& reading);
 
 }  // namespace barhatch
 
