@@ -153,6 +153,8 @@ class MarkWarning(IntFlag):
     LOW_BYTE = 64
     UNREADABLE = 128
     GAP = 256
+    PARTNERS = 512
+    ELEMENT_ORDER = 1024
 
 
 class Kind(IntEnum):

@@ -220,9 +220,9 @@ enum BarhatchStatus {
   BARHATCH_BAD_CHARACTER = 4, /* position says which */
   BARHATCH_BAD_LENGTH = 5,    /* another number of characters is needed */
   BARHATCH_BAD_CHECK = 6,     /* not in this version */
-  BARHATCH_BAD_SYNTAX = 7,    /* start or stop character missing, an escape that is none */
-  BARHATCH_UNKNOWN_AI = 8,    /* not in this version */
-  BARHATCH_BAD_AI_DATA = 9,   /* not in this version */
+  BARHATCH_BAD_SYNTAX = 7,    /* start or stop character missing, an escape or a GS1 element that is none */
+  BARHATCH_UNKNOWN_AI = 8,    /* a GS1 application identifier that is not assigned; see BARHATCH_PERMIT */
+  BARHATCH_BAD_AI_DATA = 9,   /* the value of a GS1 application identifier is not as its format says */
   BARHATCH_TOO_LONG = 10,     /* for the symbol */
   BARHATCH_NO_SUCH_SIZE = 11, /* rows x columns is no size of a Data Matrix */
   BARHATCH_NOT_STANDARD = 12, /* see BARHATCH_PERMIT */
@@ -242,7 +242,9 @@ enum BarhatchWarning {
   BARHATCH_W_INVERTED = 32,       /* light elements are filled, but no quiet zone */
   BARHATCH_W_LOW_BYTE = 64,       /* of a character above 255 the low byte alone is written, as the device does */
   BARHATCH_W_UNREADABLE = 128,    /* a standard reader reads something else than the text, or nothing */
-  BARHATCH_W_GAP = 256            /* wide for the narrowest element: strokes may miss it, those of a spiral leave it */
+  BARHATCH_W_GAP = 256,           /* wide for the narrowest element: strokes may miss it, those of a spiral leave it */
+  BARHATCH_W_PARTNERS = 512,      /* GS1: an element lacks one that it needs, or has one that it does not go with */
+  BARHATCH_W_ELEMENT_ORDER = 1024 /* GS1: in another order there were one separator less */
 };
 
 /* result.kind */

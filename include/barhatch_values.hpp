@@ -134,8 +134,8 @@ enum class Status : std::int32_t {
   kBadLength = BARHATCH_BAD_LENGTH,           // another number of characters is needed
   kBadCheck = BARHATCH_BAD_CHECK,             // not in this version
   kBadSyntax = BARHATCH_BAD_SYNTAX,           // start or stop character missing
-  kUnknownAi = BARHATCH_UNKNOWN_AI,           // not in this version
-  kBadAiData = BARHATCH_BAD_AI_DATA,          // not in this version
+  kUnknownAi = BARHATCH_UNKNOWN_AI,           // a GS1 application identifier that there is none
+  kBadAiData = BARHATCH_BAD_AI_DATA,          // a value that does not fit its identifier
   kTooLong = BARHATCH_TOO_LONG,               // for the symbol
   kNoSuchSize = BARHATCH_NO_SUCH_SIZE,        // rows x columns is no size of a Data Matrix
   kNotStandard = BARHATCH_NOT_STANDARD,       // Flag::kPermit allows most of it
@@ -147,15 +147,17 @@ enum class Status : std::int32_t {
 
 // What a host should know about a mark that was made.
 enum class Warning : std::uint32_t {
-  kLeadingZero = BARHATCH_W_LEADING_ZERO,  // Interleaved 2 of 5 got a 0 in front
-  kFewDigits = BARHATCH_W_FEW_DIGITS,      // fewer than 6 digits of Interleaved 2 of 5
-  kEci = BARHATCH_W_ECI,                   // a character above 255 designates an ECI
-  k144 = BARHATCH_W_144,                   // not in this version
-  kQuietZone = BARHATCH_W_QUIET_ZONE,      // smaller than the standard's
-  kInverted = BARHATCH_W_INVERTED,         // light elements are marked, but no quiet zone
-  kLowByte = BARHATCH_W_LOW_BYTE,          // of a character above 255 the low byte is written
-  kUnreadable = BARHATCH_W_UNREADABLE,     // a standard reader reads something else, or nothing
-  kGap = BARHATCH_W_GAP                    // the gap is wide for the narrowest element
+  kLeadingZero = BARHATCH_W_LEADING_ZERO,   // Interleaved 2 of 5 got a 0 in front
+  kFewDigits = BARHATCH_W_FEW_DIGITS,       // fewer than 6 digits of Interleaved 2 of 5
+  kEci = BARHATCH_W_ECI,                    // a character above 255 designates an ECI
+  k144 = BARHATCH_W_144,                    // not in this version
+  kQuietZone = BARHATCH_W_QUIET_ZONE,       // smaller than the standard's
+  kInverted = BARHATCH_W_INVERTED,          // light elements are marked, but no quiet zone
+  kLowByte = BARHATCH_W_LOW_BYTE,           // of a character above 255 the low byte is written
+  kUnreadable = BARHATCH_W_UNREADABLE,      // a standard reader reads something else, or nothing
+  kGap = BARHATCH_W_GAP,                    // the gap is wide for the narrowest element
+  kPartners = BARHATCH_W_PARTNERS,          // a GS1 element lacks a partner, or has a wrong one
+  kElementOrder = BARHATCH_W_ELEMENT_ORDER  // GS1: in another order one separator less
 };
 
 // Several values of Flag, Want or Warning.

@@ -29,6 +29,17 @@ enum class Reason : std::uint8_t {
   kGeometry,            // sizes that make no sense
   kNothingToMark,
   kTooManyStrokes,  // more than a fill may have
+  // GS1 element strings; the figure of all but the last is an AiFigure: identifier and detail
+  kUnknownAi,     // not assigned
+  kAiTooLong,     // a value; detail: its characters
+  kAiTooShort,    // a value; detail: its characters
+  kAiCharacter,   // detail: the code of one that the value may not have
+  kAiCheckDigit,  // detail: the right one
+  kAiCheckPair,   // detail: the codes of the right two, the first times 256
+  kAiDate,        // no such date or time; detail: a DateDetail
+  kAiValue,       // detail: the AiCheck that it fails
+  kAiRepeated,    // with another value; detail: nothing
+  kGs1Syntax,     // no application identifier where one begins
   kNoMemory,
 };
 
@@ -41,6 +52,7 @@ struct Refusal {
   Reason reason = Reason::kNone;
   std::int32_t position = -1;  // of a unit of the text, from 0; -1 for none
   std::int32_t figure = 0;
+  std::int32_t extent = 1;  // units of the text from the position on
 
   constexpr bool IsRefused() const { return reason != Reason::kNone; }
 };

@@ -2,6 +2,7 @@
 
 #include "datamatrix/DataMatrix.h"
 #include "job/Token.h"
+#include "mark/ElementSentences.h"
 #include "mark/Names.h"
 #include "symbologies/Code128Shortest.h"
 #include "symbologies/SymbologyTable.h"
@@ -37,6 +38,16 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kGeometry, BARHATCH_BAD_GEOMETRY},
     {Reason::kNothingToMark, BARHATCH_NOTHING_TO_MARK},
     {Reason::kTooManyStrokes, BARHATCH_BAD_GEOMETRY},
+    {Reason::kUnknownAi, BARHATCH_UNKNOWN_AI},
+    {Reason::kAiTooLong, BARHATCH_BAD_AI_DATA},
+    {Reason::kAiTooShort, BARHATCH_BAD_AI_DATA},
+    {Reason::kAiCharacter, BARHATCH_BAD_AI_DATA},
+    {Reason::kAiCheckDigit, BARHATCH_BAD_AI_DATA},
+    {Reason::kAiCheckPair, BARHATCH_BAD_AI_DATA},
+    {Reason::kAiDate, BARHATCH_BAD_AI_DATA},
+    {Reason::kAiValue, BARHATCH_BAD_AI_DATA},
+    {Reason::kAiRepeated, BARHATCH_BAD_AI_DATA},
+    {Reason::kGs1Syntax, BARHATCH_BAD_SYNTAX},
     {Reason::kNoMemory, BARHATCH_NO_MEMORY},
 };
 
@@ -63,9 +74,12 @@ constexpr WarningSentence kWarnings[] = {
     {BARHATCH_W_GAP,
      "the gap is wide for the narrowest element: strokes may miss it or lie beside it"},
     {BARHATCH_W_QUIET_ZONE, "the quiet zone is smaller than the standard's"},
+    {BARHATCH_W_PARTNERS,
+     "an application identifier lacks one that it needs, or has one that it does not go with"},
     {BARHATCH_W_ECI, "a character above 255 is no data here: it designates an ECI"},
     {BARHATCH_W_FEW_DIGITS,
      "fewer than 6 digits of Interleaved 2 of 5: readers may not accept them"},
+    {BARHATCH_W_ELEMENT_ORDER, "an element of variable length at the end saves a separator"},
     {BARHATCH_W_LEADING_ZERO, "a 0 was added in front: Interleaved 2 of 5 writes pairs of digits"},
 };
 
@@ -253,6 +267,18 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
       break;
     case Reason::kTooManyStrokes:
       message << "the gap asks for more strokes than a mark can have";
+      break;
+    case Reason::kUnknownAi:
+    case Reason::kAiTooLong:
+    case Reason::kAiTooShort:
+    case Reason::kAiCharacter:
+    case Reason::kAiCheckDigit:
+    case Reason::kAiCheckPair:
+    case Reason::kAiDate:
+    case Reason::kAiValue:
+    case Reason::kAiRepeated:
+    case Reason::kGs1Syntax:
+      SayElementRefusal(refusal, place, message);
       break;
     case Reason::kNoMemory:
       message << "no memory";
