@@ -349,7 +349,7 @@ TEST(EanUpcParities, OfAFiveDigitAddonWithCheckValueSevenAreLGLGL) {
   SymbolWriter builder(RuntimeMemory(), 0, {0, 0});
   builder.Open(8 + 47);
   Conformance how = Conformance::Device();
-  AppendAddon(builder, EanUpcLayoutOf(EanUpcSymbol::kEan13Addon5), "00009", how);
+  AppendAddon(builder, EanUpcVariant(EanUpcSymbol::kEan13Addon5, 0), "00009", how);
   EXPECT_EQ(Take(builder.Release()),
             Modules("00000000 1011 0001101 01 0100111 01 0001101 01 0100111 01 0001011"));
 }
@@ -357,7 +357,7 @@ TEST(EanUpcParities, OfAFiveDigitAddonWithCheckValueSevenAreLGLGL) {
 std::string DrawnAddon(EanUpcSymbol symbol, const char* addon, Conformance how) {
   SymbolWriter out(RuntimeMemory(), 0, {0, 0});
   out.Open(100);
-  AppendAddon(out, EanUpcLayoutOf(symbol), addon, how);
+  AppendAddon(out, EanUpcVariant(symbol, 0), addon, how);
   return *Take(out.Release());
 }
 
