@@ -107,15 +107,13 @@ void SayLength(const BarhatchJob& job, const SymbologyName& name, std::int32_t g
   const std::int32_t longest = job.symbology == BARHATCH_DATA_MATRIX
                                    ? static_cast<std::int32_t>(kMaxDataMatrixText)
                                    : RowOf(job.symbology)->drawing.text.longest;
-  if (place > 0) message << given << " digits in front of + at " << place << ": ";
   message << name.name << " takes ";
-  if (place > 0) {
-    message << name.accepts;
-  } else if (given > longest && longest > 17) {
+  if (given > longest && longest > 17) {
     message << "at most " << longest << " characters, " << given << " given";
   } else {
-    message << name.accepts << ", " << given << " given";
+    message << AcceptedBy(name, job.conformance) << ", " << given << " given";
   }
+  if (place > 0) message << " in front of + at " << place;
 }
 
 void SayNotStandard(const BarhatchJob& job, Message& message) {

@@ -98,6 +98,10 @@ constexpr int kDeviceAddonGapModules = 8;
 constexpr int kLeastAddonGapModules = 7;
 constexpr int kLeastUpcAddonGapModules = 9;
 constexpr int kMostAddonGapModules = 12;
+constexpr int LeastAddonGapOf(EanUpcSymbol symbol) {
+  const bool isEan = EanUpcLayoutOf(symbol).firstDigit == FirstDigit::kGiven;
+  return isEan ? kLeastAddonGapModules : kLeastUpcAddonGapModules;
+}
 // Light modules that the standard asks for behind an add-on, whatever it stands beside.
 constexpr int kAddonQuietModules = 5;
 

@@ -183,4 +183,16 @@ Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, Conformance& 
   return {};
 }
 
+Refusal PrepareEanUpc(const LinearOptions& options, PreparedText& text, Conformance& how) {
+  EanUpcDigits read;
+  const auto asked = static_cast<EanUpcSymbol>(text.variant);
+  const Refusal refusal = ReadEanUpcText(asked, {text.room, text.length}, how, read);
+  if (refusal.IsRefused()) return refusal;
+  std::memcpy(text.room, read.digits, read.length + 1);
+  text.length = read.length;
+  text.variant = EanUpcVariant(read.symbol, options.addonGap);
+  if (EanUpcLayoutOf(read.symbol).addonDigits != 0) text.quiet.right = kAddonQuietModules;
+  return {};
+}
+
 }  // namespace barhatch

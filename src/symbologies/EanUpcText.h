@@ -23,6 +23,7 @@
 #include "job/Job.h"
 #include "job/Refusal.h"
 #include "symbologies/EanUpcElements.h"
+#include "symbologies/Preparation.h"
 
 namespace barhatch {
 
@@ -40,6 +41,11 @@ struct EanUpcDigits {
 // standard leaves out: an add-on beside EAN-8 (D-EAN-2), number system 1 of UPC-E (D-EAN-3).
 Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, Conformance& how,
                        EanUpcDigits& read);
+
+// The preparation of the family's types: the digits, the variant with the add-on and the gap that
+// is asked for, and the quiet zone behind the add-on. The option's gap is 0 or one that the
+// symbology has.
+Refusal PrepareEanUpc(const LinearOptions& options, PreparedText& text, Conformance& how);
 
 }  // namespace barhatch
 
