@@ -18,9 +18,14 @@ enum class Reason : std::uint8_t {
   kLength,              // figure: the characters there are
   kEndInside,           // position: of a start or stop character between others
   kNumberSystem,        // position: of a number system that there is none
+  kCheck,               // position: of a wrong check character; figure: the right one
   kNoStart,             // position: where a start character should stand
   kNoStop,              // position: where a stop character should stand
   kNotStandard,         // a symbol that the standard leaves out
+  kSecondSign,          // position: of a second sign in front of an add-on
+  kAddonDigits,         // position: of that sign; figure: the digits behind it, which are no add-on
+  kUpcEForm,            // position: of six digits of UPC-E; figure: those that are right instead
+  kNoUpcE,              // position: of a UPC-A number whose zeros cannot be suppressed
   kTooManyValues,       // of a linear symbol; figure: those of the text
   kTooManyCodewords,    // figure: the codewords of the text, as far as they were counted
   kSizeTooSmall,        // figure: the codewords of the text

@@ -4,6 +4,8 @@
 #include <limits>
 
 #include "mark/Names.h"
+#include "symbologies/EanUpcElements.h"
+#include "symbologies/SymbologyTable.h"
 
 namespace barhatch {
 
@@ -27,9 +29,11 @@ struct ComingField {
 };
 
 constexpr ComingField<std::int32_t> kComingIntegers[] = {
-    {&BarhatchJob::check, "check"},     {&BarhatchJob::eci, "eci"},
-    {&BarhatchJob::shape, "shape"},     {&BarhatchJob::addon_gap, "addon_gap"},
-    {&BarhatchJob::profile, "profile"}, {&BarhatchJob::dots_per_module, "dots_per_module"},
+    {&BarhatchJob::check, "check"},
+    {&BarhatchJob::eci, "eci"},
+    {&BarhatchJob::shape, "shape"},
+    {&BarhatchJob::profile, "profile"},
+    {&BarhatchJob::dots_per_module, "dots_per_module"},
     {&BarhatchJob::order, "order"},
 };
 
@@ -138,6 +142,23 @@ std::int32_t CheckMatrixOptions(const BarhatchJob& job, Message& message) {
   return Refuse(BARHATCH_BAD_OPTION, "an envelope and FNC1_SECOND exclude each other", message);
 }
 
+std::int32_t CheckAddonGap(const BarhatchJob& job, Message& message) {
+  if (job.addon_gap == 0) return BARHATCH_OK;
+  const SymbologyRow* const row = RowOf(job.symbology);
+  if (row == nullptr || row->reading.mainDigits == 0) {
+    return Refuse(BARHATCH_BAD_OPTION, "addon_gap is for EAN and UPC", message);
+  }
+  if (job.conformance == BARHATCH_DEVICE) {
+    return Refuse(BARHATCH_BAD_OPTION, "the device has an addon_gap of its own: it must be 0",
+                  message);
+  }
+  const int least = LeastAddonGapOf(static_cast<EanUpcSymbol>(row->drawing.variant));
+  if (job.addon_gap >= least && job.addon_gap <= kMostAddonGapModules) return BARHATCH_OK;
+  message << "addon_gap " << job.addon_gap << " is none beside " << row->name.name << ": 0 and "
+          << least << " to " << kMostAddonGapModules;
+  return BARHATCH_BAD_OPTION;
+}
+
 std::int32_t CheckLinearOptions(const BarhatchJob& job, Message& message) {
   const bool isOfMatrix =
       job.rows != 0 || job.columns != 0 || job.envelope != 0 || (job.flags & kMatrixFlags) != 0;
@@ -224,6 +245,7 @@ std::int32_t CheckOptions(const BarhatchJob& job, Message message) {
   if (status == BARHATCH_OK) {
     status = IsMatrix(job) ? CheckMatrixOptions(job, message) : CheckLinearOptions(job, message);
   }
+  if (status == BARHATCH_OK) status = CheckAddonGap(job, message);
   if (status == BARHATCH_OK) status = CheckComing(job, kComingIntegers, message);
   if (status == BARHATCH_OK) status = CheckComing(job, kComingLengths, message);
   if (status == BARHATCH_OK) status = CheckPointers(job, message);

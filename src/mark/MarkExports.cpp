@@ -59,8 +59,27 @@ bool LosesElements(const BarhatchJob& job, const MarkedSymbol& symbol) {
   return RatioOf(job) <= 1.0 && HasWideElements(symbol);
 }
 
-// The six digits of UPC-E are refused together, any other character alone.
+// Digits that are refused together; any other character alone.
 constexpr std::size_t kUpcEDigits = 6;
+constexpr std::size_t kUpcADigits = 11;
+
+// An add-on reaches to the end of the text. All that is refused together is ASCII.
+std::size_t ExtentOf(const Refusal& refusal, const InputText& text, const TextPlace& place) {
+  const std::size_t rest = text.Length() - place.begin;
+  const bool isNumberSystem = refusal.position == 0;
+  switch (refusal.reason) {
+    case Reason::kUpcEForm:
+      return kUpcEDigits;
+    case Reason::kNoUpcE:
+      return kUpcADigits;
+    case Reason::kAddonDigits:
+      return rest;
+    case Reason::kNotStandard:
+      return isNumberSystem ? place.extent : rest;
+    default:
+      return place.extent;
+  }
+}
 
 Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result) {
   if (refusal.position < 0) return refusal;
@@ -68,7 +87,7 @@ Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result
   if (refusal.reason == Reason::kCharacter || refusal.reason == Reason::kFunction) {
     refusal.figure = static_cast<std::int32_t>(text.TokenAt(place));
   }
-  if (refusal.reason == Reason::kNotStandard && refusal.position > 0) place.extent = kUpcEDigits;
+  place.extent = ExtentOf(refusal, text, place);
   SetPlace(place, result);
   return refusal;
 }

@@ -3,8 +3,10 @@
 #include "datamatrix/DataMatrix.h"
 #include "job/Token.h"
 #include "mark/ElementSentences.h"
+#include "mark/InputText.h"
 #include "mark/Names.h"
 #include "symbologies/Code128Shortest.h"
+#include "symbologies/EanUpcElements.h"
 #include "symbologies/SymbologyTable.h"
 
 namespace barhatch {
@@ -27,9 +29,14 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kLength, BARHATCH_BAD_LENGTH},
     {Reason::kEndInside, BARHATCH_BAD_CHARACTER},
     {Reason::kNumberSystem, BARHATCH_BAD_CHARACTER},
+    {Reason::kCheck, BARHATCH_BAD_CHECK},
     {Reason::kNoStart, BARHATCH_BAD_SYNTAX},
     {Reason::kNoStop, BARHATCH_BAD_SYNTAX},
     {Reason::kNotStandard, BARHATCH_NOT_STANDARD},
+    {Reason::kSecondSign, BARHATCH_BAD_SYNTAX},
+    {Reason::kAddonDigits, BARHATCH_BAD_SYNTAX},
+    {Reason::kUpcEForm, BARHATCH_NOT_STANDARD},
+    {Reason::kNoUpcE, BARHATCH_NOT_STANDARD},
     {Reason::kTooManyValues, BARHATCH_TOO_LONG},
     {Reason::kTooManyCodewords, BARHATCH_TOO_LONG},
     {Reason::kSizeTooSmall, BARHATCH_TOO_LONG},
@@ -110,7 +117,7 @@ const SymbolSize* NextSize(const BarhatchJob& job) {
 }
 
 void SayLength(const BarhatchJob& job, const SymbologyName& name, std::int32_t given,
-               Message& message) {
+               std::int32_t place, Message& message) {
   const std::int32_t longest = job.symbology == BARHATCH_DATA_MATRIX
                                    ? static_cast<std::int32_t>(kMaxDataMatrixText)
                                    : RowOf(job.symbology)->drawing.text.longest;
@@ -118,20 +125,47 @@ void SayLength(const BarhatchJob& job, const SymbologyName& name, std::int32_t g
   if (given > longest && longest > 17) {
     message << "at most " << longest << " characters, " << given << " given";
   } else {
-    message << name.accepts << ", " << given << " given";
+    message << AcceptedBy(name, job.conformance) << ", " << given << " given";
+  }
+  if (place > 0) message << " in front of + at " << place;
+}
+
+void SayNotStandard(const BarhatchJob& job, Message& message) {
+  message << (job.symbology == BARHATCH_UPC_E || job.symbology == BARHATCH_UPC_E_ADDON_2 ||
+                      job.symbology == BARHATCH_UPC_E_ADDON_5
+                  ? "UPC-E of number system 1 is outside ISO/IEC 15420; set PERMIT"
+                  : "an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
+}
+
+Message& SayCharacterCode(std::int32_t code, Message& message) {
+  const char text[] = {static_cast<char>(code), '\0'};
+  return message << text;
+}
+
+void SayCheck(const BarhatchJob& job, std::int32_t right, std::int32_t place, Message& message) {
+  const std::uint32_t given = InputText(job).CodeAt({static_cast<std::size_t>(place - 1), 1});
+  const bool isDigit = right >= '0' && right <= '9';
+  message << (isDigit ? "check digit " : "check character ");
+  SayCharacterCode(static_cast<std::int32_t>(given), message) << " at " << place << " should be ";
+  SayCharacterCode(right, message);
+}
+
+void SayAddonDigits(const BarhatchJob& job, std::int32_t digits, std::int32_t place,
+                    Message& message) {
+  const int asked = EanUpcLayoutOf(RowOf(job.symbology)->drawing.variant).addonDigits;
+  message << digits << (digits == 1 ? " digit" : " digits") << " behind + at " << place
+          << ": the add-on has ";
+  if (asked == 0) {
+    message << "2 or 5";
+  } else {
+    message << asked;
   }
 }
 
-void SayNotStandard(const BarhatchJob& job, std::int32_t place, Message& message) {
-  const bool isEan8 =
-      job.symbology == BARHATCH_EAN_8_ADDON_2 || job.symbology == BARHATCH_EAN_8_ADDON_5;
-  if (isEan8) {
-    message << "an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT";
-  } else if (place == 1) {
-    message << "UPC-E of number system 1 is outside ISO/IEC 15420; set PERMIT";
-  } else {
-    message << "the six digits at " << place << " are no UPC-A number without its zeros";
-  }
+void SayUpcEForm(std::int32_t right, std::int32_t place, Message& message) {
+  message << "the six digits at " << place << " are no UPC-A number without its zeros: ";
+  for (std::int32_t unit = 100000; unit > 0; unit /= 10) message << right / unit % 10;
+  message << " are";
 }
 
 bool WouldGrow(const BarhatchJob& job, std::int32_t codewords) {
@@ -217,7 +251,7 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
       SayCharacter(job, name, refusal, place, message);
       break;
     case Reason::kLength:
-      SayLength(job, name, refusal.figure, message);
+      SayLength(job, name, refusal.figure, place, message);
       break;
     case Reason::kEndInside:
       message << "character " << place << " (";
@@ -226,14 +260,29 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
     case Reason::kNumberSystem:
       message << "number system " << refusal.figure - '0' << " at " << place << " is none: 0 and 1";
       break;
+    case Reason::kCheck:
+      SayCheck(job, refusal.figure, place, message);
+      break;
     case Reason::kNoStart:
       message << "start character missing at " << place;
       break;
     case Reason::kNoStop:
       message << "stop character missing at " << place;
       break;
+    case Reason::kSecondSign:
+      message << "a second + at " << place << ": one stands in front of the add-on";
+      break;
+    case Reason::kAddonDigits:
+      SayAddonDigits(job, refusal.figure, place, message);
+      break;
+    case Reason::kUpcEForm:
+      SayUpcEForm(refusal.figure, place, message);
+      break;
+    case Reason::kNoUpcE:
+      message << "the UPC-A number at " << place << " has no zeros that UPC-E could leave out";
+      break;
     default:
-      SayNotStandard(job, place, message);
+      SayNotStandard(job, message);
       break;
   }
 }

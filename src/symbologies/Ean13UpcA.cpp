@@ -12,7 +12,7 @@ void PrefixZero(char* working) {
 }
 
 void EncodeEan13UpcA(const Characters& text, int variant, Conformance& how, SymbolWriter& out) {
-  const EanUpcLayout& layout = kEanUpcLayouts[variant];
+  const EanUpcLayout& layout = EanUpcLayoutOf(variant);
   char working[kWorkingCapacity];
   std::memcpy(working, text.text, text.length + 1);
   if (layout.firstDigit == FirstDigit::kBehindZero) PrefixZero(working);
@@ -24,7 +24,7 @@ void EncodeEan13UpcA(const Characters& text, int variant, Conformance& how, Symb
   out.AppendModules(kCentreGuard);
   AppendDigits(out, working + 7, 6, NumberSet::kR);
   out.AppendModules(kNormalGuard);
-  AppendAddon(out, layout, working + layout.workingDigits, how);
+  AppendAddon(out, variant, working + layout.workingDigits, how);
 }
 
 }  // namespace barhatch

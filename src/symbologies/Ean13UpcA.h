@@ -16,7 +16,7 @@ namespace barhatch {
 // a '0'. REQUIRES: room for one character more.
 void PrefixZero(char* working);
 
-// REQUIRES: the digits of the layout. variant: one of the six EanUpcSymbol of the two symbologies.
+// REQUIRES: the digits of the layout. variant: of one of the six EanUpcSymbol of the two symbologies.
 void EncodeEan13UpcA(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
 
 }  // namespace barhatch

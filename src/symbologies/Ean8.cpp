@@ -11,7 +11,7 @@ Refusal CheckEan8AddonForm(const Characters& /*text*/, Conformance& how) {
 }
 
 void EncodeEan8(const Characters& text, int variant, Conformance& how, SymbolWriter& out) {
-  const EanUpcLayout& layout = kEanUpcLayouts[variant];
+  const EanUpcLayout& layout = EanUpcLayoutOf(variant);
   char working[kWorkingCapacity];
   std::memcpy(working, text.text, text.length + 1);
   InsertCheckDigit(layout, working);
@@ -22,7 +22,7 @@ void EncodeEan8(const Characters& text, int variant, Conformance& how, SymbolWri
   out.AppendModules(kCentreGuard);
   AppendDigits(out, working + 4, 4, NumberSet::kR);
   out.AppendModules(kNormalGuard);
-  AppendAddon(out, layout, working + layout.workingDigits, how);
+  AppendAddon(out, variant, working + layout.workingDigits, how);
 }
 
 }  // namespace barhatch

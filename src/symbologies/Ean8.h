@@ -16,7 +16,7 @@ namespace barhatch {
 // An add-on beside EAN-8 is not standard, whatever its digits (D-EAN-2).
 Refusal CheckEan8AddonForm(const Characters& text, Conformance& how);
 
-// REQUIRES: the digits of the layout. variant: one of the three EanUpcSymbol of EAN-8.
+// REQUIRES: the digits of the layout. variant: of one of the three EanUpcSymbol of EAN-8.
 void EncodeEan8(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
 
 }  // namespace barhatch

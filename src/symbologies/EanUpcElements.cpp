@@ -194,6 +194,7 @@ constexpr bool WorkingDigitsAreThoseGivenAndAdded() {
   return true;
 }
 static_assert(kCheckModulus != 0, "the check digit is a remainder");
+static_assert(kLayoutCount <= kVariantSymbols, "a variant has room for the symbol");
 static_assert(kLayoutCount == 12, "four symbols, each plain and with two add-ons");
 static_assert(RowsAreIndexedBySymbol(), "the symbol is the index of its row");
 static_assert(WorkingDigitsAreThoseGivenAndAdded(), "the encoder adds two digits at most");
@@ -209,8 +210,11 @@ char* DrawDigit(char* at, char digit, NumberSet set) {
 }
 
 // Beside EAN the gap of the device is by the book.
-int GapOf(const EanUpcLayout& layout, Conformance& how) {
-  if (!how.IsInForce(Deviation::kDEAN_1)) return kAddonGapModules;
+int GapOf(int variant, const EanUpcLayout& layout, Conformance& how) {
+  if (!how.IsInForce(Deviation::kDEAN_1)) {
+    const int asked = AddonGapOf(variant);
+    return asked != 0 ? asked : kAddonGapModules;
+  }
   if (layout.firstDigit != FirstDigit::kGiven) how.Meet(Deviation::kDEAN_1);
   return kDeviceAddonGapModules;
 }
@@ -274,11 +278,11 @@ void AppendDigits(SymbolWriter& out, const char* digits, int count, NumberSet se
   for (int i = 0; i < count; ++i) at = DrawDigit(at, digits[i], set);
 }
 
-void AppendAddon(SymbolWriter& out, const EanUpcLayout& layout, const char* addon,
-                 Conformance& how) {
+void AppendAddon(SymbolWriter& out, int variant, const char* addon, Conformance& how) {
+  const EanUpcLayout& layout = EanUpcLayoutOf(variant);
   if (layout.addonDigits == 0) return;
   const char* parity = AddonParity(addon, layout.addonDigits);
-  out.AppendSpace(GapOf(layout, how));
+  out.AppendSpace(GapOf(variant, layout, how));
   out.AppendModules(kAddonStartGuard);
   for (int i = 0; i < layout.addonDigits; ++i) {
     if (i > 0) out.AppendModules(kAddonSeparator);

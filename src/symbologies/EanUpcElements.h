@@ -76,15 +76,34 @@ constexpr const EanUpcLayout& EanUpcLayoutOf(EanUpcSymbol symbol) {
   return kEanUpcLayouts[static_cast<int>(symbol)];
 }
 
+// The variant of the family's encoders: the symbol, and above it the light modules that are asked
+// for in front of an add-on, 0 for the usual ones.
+constexpr int kVariantSymbols = 16;
+constexpr int EanUpcVariant(EanUpcSymbol symbol, int addonGap) {
+  return static_cast<int>(symbol) + kVariantSymbols * addonGap;
+}
+constexpr const EanUpcLayout& EanUpcLayoutOf(int variant) {
+  return kEanUpcLayouts[static_cast<unsigned>(variant) % kVariantSymbols];
+}
+constexpr int AddonGapOf(int variant) { return variant / kVariantSymbols; }
+
 constexpr char kNormalGuard[] = "101";
 constexpr char kCentreGuard[] = "01010";
 constexpr char kUpcEEndGuard[] = "010101";
 constexpr char kAddonStartGuard[] = "1011";
 constexpr char kAddonSeparator[] = "01";
-constexpr int kAddonGapModules = 9;  // 9 to 12 beside UPC, 7 to 12 beside EAN
+// Modules in front of an add-on: 7 to 12 beside EAN, 9 to 12 beside UPC. The usual 9 is in both.
+constexpr int kAddonGapModules = 9;
 constexpr int kDeviceAddonGapModules = 8;
 constexpr int kLeastAddonGapModules = 7;
+constexpr int kLeastUpcAddonGapModules = 9;
 constexpr int kMostAddonGapModules = 12;
+constexpr int LeastAddonGapOf(EanUpcSymbol symbol) {
+  const bool isEan = EanUpcLayoutOf(symbol).firstDigit == FirstDigit::kGiven;
+  return isEan ? kLeastAddonGapModules : kLeastUpcAddonGapModules;
+}
+// Light modules that the standard asks for behind an add-on, whatever it stands beside.
+constexpr int kAddonQuietModules = 5;
 
 constexpr int kCheckModulus = 10;
 
@@ -129,9 +148,8 @@ void AppendDigits(SymbolWriter& out, const char* digits, const char* parity);
 void AppendDigits(SymbolWriter& out, const char* digits, int count, NumberSet set);
 
 // Appends the gap, the add-on guard and the digits with separators between them; nothing for a
-// layout without add-on.
-void AppendAddon(SymbolWriter& out, const EanUpcLayout& layout, const char* addon,
-                 Conformance& how);
+// variant without add-on. The device has a gap of its own (D-EAN-1).
+void AppendAddon(SymbolWriter& out, int variant, const char* addon, Conformance& how);
 
 // Of an add-on without the gap: start guard, seven modules a digit, two between digits.
 constexpr int AddonModules(int digits) { return 4 + 7 * digits + 2 * (digits - 1); }
@@ -139,7 +157,7 @@ constexpr int AddonModules(int digits) { return 4 + 7 * digits + 2 * (digits - 1
 // Letters of the symbol with its add-on, at most.
 constexpr std::size_t MostModules(const EanUpcLayout& layout) {
   const int digits = layout.addonDigits;
-  const int addon = digits == 0 ? 0 : kAddonGapModules + AddonModules(digits);
+  const int addon = digits == 0 ? 0 : kMostAddonGapModules + AddonModules(digits);
   return static_cast<std::size_t>(layout.mainModules + addon);
 }
 

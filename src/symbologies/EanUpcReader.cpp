@@ -102,14 +102,22 @@ bool ReadAddon(EanUpcLetters letters, int count, SymbolReading& reading) {
   return true;
 }
 
-// What stands behind the main symbol: nothing, or the gap and the add-on to the last letter.
-bool ReadRest(const EanUpcLayout& layout, const char* letters, std::size_t length,
-              SymbolReading& reading) {
-  if (layout.addonDigits == 0) return length == 0;
-  const std::size_t addon = static_cast<std::size_t>(AddonModules(layout.addonDigits));
+// The gap and an add-on of so many digits to the last letter.
+bool ReadGapAndAddon(int digits, const char* letters, std::size_t length, SymbolReading& reading) {
+  const std::size_t addon = static_cast<std::size_t>(AddonModules(digits));
   if (length < addon + kLeastAddonGapModules || length > addon + kMostAddonGapModules) return false;
   EanUpcLetters next(letters);
-  return next.HasSpace(length - addon) && ReadAddon(next, layout.addonDigits, reading);
+  return next.HasSpace(length - addon) && ReadAddon(next, digits, reading);
+}
+
+// What stands behind the main symbol: the add-on of the layout; of one without, any add-on or
+// nothing.
+bool ReadRest(const EanUpcLayout& layout, const char* letters, std::size_t length,
+              SymbolReading& reading) {
+  const int digits = layout.addonDigits;
+  if (digits != 0) return ReadGapAndAddon(digits, letters, length, reading);
+  return length == 0 || ReadGapAndAddon(2, letters, length, reading) ||
+         ReadGapAndAddon(5, letters, length, reading);
 }
 
 bool HasRoom(const EanUpcLayout& layout, std::size_t length) {

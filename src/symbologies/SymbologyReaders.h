@@ -41,11 +41,11 @@ struct SymbolReading {
 };
 
 // letters: a module string without quiet zones, any bytes and any number of them. The symbol must
-// fill them from the first bar to the last; of a type with add-on the add-on must be there. False
-// for a symbology that there is none and where a standard reader finds no symbol of the type, or
-// one without characters: the text is empty then, and values are given as far as they were
-// recognised. Code 128 of function characters alone is a symbol whose text is empty. Allocates
-// nothing; the time grows with the number of letters.
+// fill them from the first bar to the last; of a type with add-on the add-on must be there, of the
+// others of EAN and UPC any may. False for a symbology that there is none and where a standard
+// reader finds no symbol of the type, or one without characters: the text is empty then, and values
+// are given as far as they were recognised. Code 128 of function characters alone is a symbol whose
+// text is empty. Allocates nothing; the time grows with the number of letters.
 bool ReadSymbol(std::int32_t symbology, CheckScheme check, const char* letters, std::size_t length,
                 SymbolReading& reading);
 

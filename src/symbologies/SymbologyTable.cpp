@@ -8,6 +8,7 @@
 #include "symbologies/Ean13UpcA.h"
 #include "symbologies/Ean8.h"
 #include "symbologies/EanUpcElements.h"
+#include "symbologies/EanUpcText.h"
 #include "symbologies/Interleaved2of5.h"
 #include "symbologies/Msi.h"
 #include "symbologies/UpcE.h"
@@ -74,7 +75,19 @@ constexpr char kCodabarText[] = "digits and - $ : / . + between two of A B C D T
 constexpr char kBytes[] = "characters from 0 to 255";
 constexpr char kFromSpace[] = "characters from 32 to 127";
 constexpr char kAscii[] = "characters from 0 to 127";
-constexpr char kUpcEText[] = "7 digits: number system and six";
+
+constexpr char kEan13Text[] = "12 or 13 digits (and an add-on behind +)";
+constexpr char kEan13TextAnd2[] = "12 or 13 digits and 2 (+ may stand between)";
+constexpr char kEan13TextAnd5[] = "12 or 13 digits and 5 (+ may stand between)";
+constexpr char kUpcAText[] = "11 or 12 digits (and an add-on behind +)";
+constexpr char kUpcATextAnd2[] = "11 or 12 digits and 2 (+ may stand between)";
+constexpr char kUpcATextAnd5[] = "11 or 12 digits and 5 (+ may stand between)";
+constexpr char kEan8Text[] = "7 or 8 digits";
+constexpr char kEan8TextAnd2[] = "7 or 8 digits and 2 (+ may stand between)";
+constexpr char kEan8TextAnd5[] = "7 or 8 digits and 5 (+ may stand between)";
+constexpr char kUpcEText[] = "6, 7, 8, 11 or 12 digits (and an add-on behind +)";
+constexpr char kUpcETextAnd2[] = "7, 8, 11 or 12 digits and 2 (+ may stand between, also behind 6)";
+constexpr char kUpcETextAnd5[] = "7, 8, 11 or 12 digits and 5 (+ may stand between, also behind 6)";
 
 constexpr ReadingForm kAsDrawn = {};
 constexpr ReadingForm kBetweenTheEnds = {1, 1, 0, false};
@@ -109,36 +122,47 @@ constexpr SymbologyRow Code128(std::int32_t symbology, const char* name, Code128
   return row;
 }
 
-constexpr SymbologyRow EanUpc(SymbologyRow row, EanUpcSymbol symbol, std::uint8_t left,
-                              std::uint8_t right) {
+// What the types of EAN and UPC take by the book and on the device.
+struct EanUpcTexts {
+  const char* published;
+  const char* device;
+};
+
+constexpr SymbologyRow EanUpc(SymbologyRow row, const char* deviceAccepts, EanUpcSymbol symbol,
+                              std::uint8_t left, std::uint8_t right) {
+  row.name.deviceAccepts = deviceAccepts;
+  row.prepare = PrepareEanUpc;
   row.drawing.variant = Variant(symbol);
   return WithQuiet(Read(row, WithCheckDigit(symbol)), left, right);
 }
 
-constexpr SymbologyRow Ean13(std::int32_t symbology, const char* name, const char* accepts,
+constexpr SymbologyRow Ean13(std::int32_t symbology, const char* name, const EanUpcTexts& texts,
                              EanUpcSymbol symbol) {
-  return EanUpc(Row(symbology, name, accepts, Digits(symbol), EncodeEan13UpcA, ReadEan13UpcA),
-                symbol, 11, 7);
+  return EanUpc(
+      Row(symbology, name, texts.published, Digits(symbol), EncodeEan13UpcA, ReadEan13UpcA),
+      texts.device, symbol, 11, 7);
 }
 
-constexpr SymbologyRow UpcA(std::int32_t symbology, const char* name, const char* accepts,
-                            EanUpcSymbol symbol) {
-  return EanUpc(Row(symbology, name, accepts, Digits(symbol), EncodeEan13UpcA, ReadEan13UpcA),
-                symbol, 9, 9);
-}
-
-constexpr SymbologyRow Ean8(std::int32_t symbology, const char* name, const char* accepts,
-                            EanUpcSymbol symbol) {
-  const FormCheck form = symbol == EanUpcSymbol::kEan8 ? nullptr : CheckEan8AddonForm;
-  return EanUpc(Row(symbology, name, accepts, WithForm(Digits(symbol), form), EncodeEan8, ReadEan8),
-                symbol, 7, 7);
-}
-
-constexpr SymbologyRow UpcE(std::int32_t symbology, const char* name, const char* accepts,
+constexpr SymbologyRow UpcA(std::int32_t symbology, const char* name, const EanUpcTexts& texts,
                             EanUpcSymbol symbol) {
   return EanUpc(
-      Row(symbology, name, accepts, WithForm(Digits(symbol), CheckUpcEForm), EncodeUpcE, ReadUpcE),
-      symbol, 9, 7);
+      Row(symbology, name, texts.published, Digits(symbol), EncodeEan13UpcA, ReadEan13UpcA),
+      texts.device, symbol, 9, 9);
+}
+
+constexpr SymbologyRow Ean8(std::int32_t symbology, const char* name, const EanUpcTexts& texts,
+                            EanUpcSymbol symbol) {
+  const FormCheck form = symbol == EanUpcSymbol::kEan8 ? nullptr : CheckEan8AddonForm;
+  return EanUpc(
+      Row(symbology, name, texts.published, WithForm(Digits(symbol), form), EncodeEan8, ReadEan8),
+      texts.device, symbol, 7, 7);
+}
+
+constexpr SymbologyRow UpcE(std::int32_t symbology, const char* name, const EanUpcTexts& texts,
+                            EanUpcSymbol symbol) {
+  return EanUpc(Row(symbology, name, texts.published, WithForm(Digits(symbol), CheckUpcEForm),
+                    EncodeUpcE, ReadUpcE),
+                texts.device, symbol, 9, 7);
 }
 
 constexpr TextRule kCodabarRule = WithForm(Rule(kCodabarSet, 3116, kNoDeviation), CheckCodabarForm);
@@ -162,24 +186,24 @@ constexpr SymbologyRow kRows[] = {
     Read(Row(0, "Codabar", kCodabarText, kCodabarRule, EncodeCodabar, ReadCodabar), kBetweenTheEnds),
     Row(1, "Code 39", kCode39Text, kCode39Rule, EncodeCode39, ReadCode39),
     Row(2, "Code 93", kCode39Text, kCode93Rule, EncodeCode93, ReadCode93),
-    Ean13(3, "EAN-13", "12 digits", EanUpcSymbol::kEan13),
+    Ean13(3, "EAN-13", {kEan13Text, "12 digits"}, EanUpcSymbol::kEan13),
     Row(4, "MSI", "digits", kMsiRule, EncodeMsi, ReadMsi),
     Code128(5, "Code 128", Code128Policy::kAuto),
     Code128(6, "Code 128 from set A", Code128Policy::kFromA),
     Code128(7, "Code 128 set B", Code128Policy::kB),
     Code128(8, "Code 128 from set C", Code128Policy::kFromC),
-    UpcA(9, "UPC-A", "11 digits", EanUpcSymbol::kUpcA),
-    UpcE(10, "UPC-E", kUpcEText, EanUpcSymbol::kUpcE),
+    UpcA(9, "UPC-A", {kUpcAText, "11 digits"}, EanUpcSymbol::kUpcA),
+    UpcE(10, "UPC-E", {kUpcEText, "7 digits: number system and six"}, EanUpcSymbol::kUpcE),
     Row(11, "Code 11", "digits and -", kCode11Rule, EncodeCode11, ReadCode11),
-    Ean8(12, "EAN-8", "7 digits", EanUpcSymbol::kEan8),
-    UpcA(13, "UPC-A with 2-digit add-on", "13 digits: 11 and 2", EanUpcSymbol::kUpcAAddon2),
-    UpcA(14, "UPC-A with 5-digit add-on", "16 digits: 11 and 5", EanUpcSymbol::kUpcAAddon5),
-    Ean13(15, "EAN-13 with 2-digit add-on", "14 digits: 12 and 2", EanUpcSymbol::kEan13Addon2),
-    Ean13(16, "EAN-13 with 5-digit add-on", "17 digits: 12 and 5", EanUpcSymbol::kEan13Addon5),
-    Ean8(17, "EAN-8 with 2-digit add-on", "9 digits: 7 and 2", EanUpcSymbol::kEan8Addon2),
-    Ean8(18, "EAN-8 with 5-digit add-on", "12 digits: 7 and 5", EanUpcSymbol::kEan8Addon5),
-    UpcE(19, "UPC-E with 2-digit add-on", "9 digits: 7 and 2", EanUpcSymbol::kUpcEAddon2),
-    UpcE(20, "UPC-E with 5-digit add-on", "12 digits: 7 and 5", EanUpcSymbol::kUpcEAddon5),
+    Ean8(12, "EAN-8", {kEan8Text, "7 digits"}, EanUpcSymbol::kEan8),
+    UpcA(13, "UPC-A with 2-digit add-on", {kUpcATextAnd2, "13 digits: 11 and 2"}, EanUpcSymbol::kUpcAAddon2),
+    UpcA(14, "UPC-A with 5-digit add-on", {kUpcATextAnd5, "16 digits: 11 and 5"}, EanUpcSymbol::kUpcAAddon5),
+    Ean13(15, "EAN-13 with 2-digit add-on", {kEan13TextAnd2, "14 digits: 12 and 2"}, EanUpcSymbol::kEan13Addon2),
+    Ean13(16, "EAN-13 with 5-digit add-on", {kEan13TextAnd5, "17 digits: 12 and 5"}, EanUpcSymbol::kEan13Addon5),
+    Ean8(17, "EAN-8 with 2-digit add-on", {kEan8TextAnd2, "9 digits: 7 and 2"}, EanUpcSymbol::kEan8Addon2),
+    Ean8(18, "EAN-8 with 5-digit add-on", {kEan8TextAnd5, "12 digits: 7 and 5"}, EanUpcSymbol::kEan8Addon5),
+    UpcE(19, "UPC-E with 2-digit add-on", {kUpcETextAnd2, "9 digits: 7 and 2"}, EanUpcSymbol::kUpcEAddon2),
+    UpcE(20, "UPC-E with 5-digit add-on", {kUpcETextAnd5, "12 digits: 7 and 5"}, EanUpcSymbol::kUpcEAddon5),
     Read(Row(21, "Interleaved 2 of 5", "digits", kItfRule, EncodeInterleaved2of5, ReadInterleaved2of5), kInPairs),
     Row(22, "Code 93, full ASCII", kAscii, kCode93FullRule, EncodeCode93, ReadCode93),
     Read(Row(101, "ITF-14", "13 or 14 digits", kItf14Rule, EncodeInterleaved2of5, ReadInterleaved2of5), kInPairs),

@@ -1,5 +1,7 @@
 #include "symbologies/UpcE.h"
 
+#include <cstring>
+
 #include "job/CharacterClasses.h"
 #include "symbologies/EanUpcElements.h"
 
@@ -22,12 +24,34 @@ constexpr char kExpansions[10][kUpcADigits + 1] = {
     "Nabcde0000f",  // 9
 };
 
+constexpr int kSuppressedDigits = 6;
+
 // Six digits that suppressing the zeros of a UPC-A number gives.
 bool IsSuppressedForm(const char* six) {
   const char last = six[5];
   if (last == '3') return six[2] > '2';
   if (last == '4') return six[3] != '0';
   return last < '5' || six[4] != '0';
+}
+
+// What the six digits that suppress the zeros by the rule of this last digit would be.
+void TakeSix(const char* upcA, char last, char* six) {
+  const char* const places = kExpansions[last - '0'];
+  for (int i = 1; i < kUpcADigits; ++i) {
+    if (places[i] >= 'a') six[places[i] - 'a'] = upcA[i];
+  }
+  six[kSuppressedDigits - 1] = last;
+}
+
+// As one number.
+std::int32_t RightSix(const char* upcE) {
+  char upcA[kUpcADigits + 1];
+  char right[1 + kSuppressedDigits];
+  ExpandUpcE(upcE, upcA);
+  std::int32_t six = 0;
+  if (!SuppressUpcA(upcA, right)) return six;
+  for (int i = 1; i <= kSuppressedDigits; ++i) six = six * 10 + (right[i] - '0');
+  return six;
 }
 
 }  // namespace
@@ -43,6 +67,20 @@ void ExpandUpcE(const char* upcE, char* upcA) {
   *upcA = '\0';
 }
 
+bool SuppressUpcA(const char* upcA, char* upcE) {
+  char attempt[1 + kSuppressedDigits] = {upcA[0]};
+  for (char last = '0'; last <= '9'; ++last) {
+    char number[kUpcADigits + 1];
+    TakeSix(upcA, last, attempt + 1);
+    ExpandUpcE(attempt, number);
+    if (std::memcmp(number, upcA, kUpcADigits) == 0 && IsSuppressedForm(attempt + 1)) {
+      std::memcpy(upcE, attempt, sizeof attempt);
+      return true;
+    }
+  }
+  return false;
+}
+
 int UpcECheckDigit(const char* upcE) {
   char upcA[kUpcADigits + 1];
   ExpandUpcE(upcE, upcA);
@@ -54,11 +92,11 @@ Refusal CheckUpcEForm(const Characters& text, Conformance& how) {
   if (system > '1') return {Reason::kNumberSystem, 0, static_cast<unsigned char>(system)};
   if (system == '1' && !how.Deviates(Deviation::kDEAN_3)) return {Reason::kNotStandard, 0, 0};
   if (IsSuppressedForm(text.text + 1) || how.Deviates(Deviation::kDEAN_4)) return {};
-  return {Reason::kNotStandard, 1, 0};
+  return {Reason::kUpcEForm, 1, RightSix(text.text)};
 }
 
 void EncodeUpcE(const Characters& text, int variant, Conformance& how, SymbolWriter& out) {
-  const EanUpcLayout& layout = kEanUpcLayouts[variant];
+  const EanUpcLayout& layout = EanUpcLayoutOf(variant);
   const char* const digits = text.text;
   const char* parity = UpcEParity(digits[0] - '0', UpcECheckDigit(digits));
 
@@ -66,7 +104,7 @@ void EncodeUpcE(const Characters& text, int variant, Conformance& how, SymbolWri
   out.AppendModules(kNormalGuard);
   AppendDigits(out, digits + 1, parity);
   out.AppendModules(kUpcEEndGuard);
-  AppendAddon(out, layout, digits + layout.workingDigits, how);
+  AppendAddon(out, variant, digits + layout.workingDigits, how);
 }
 
 }  // namespace barhatch

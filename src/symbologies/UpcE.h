@@ -24,16 +24,22 @@ constexpr int kUpcADigits = 11;
 // characters.
 void ExpandUpcE(const char* upcE, char* upcA);
 
+// The way back: writes the number system and the six digits, 7 characters, of the UPC-A number at
+// upcA. False for a number whose zeros cannot be suppressed, and then nothing is written. Of the
+// digits that stand for a number only one choice is the standard's. REQUIRES: 11 digits at upcA.
+bool SuppressUpcA(const char* upcA, char* upcE);
+
 // The check digit 0..9 of a UPC-E number, which is that of the UPC-A number it stands for.
 // REQUIRES: as ExpandUpcE.
 int UpcECheckDigit(const char* upcE);
 
-// Holds the number system and the six digits to the standard (D-EAN-3, D-EAN-4). REQUIRES: digits,
-// seven or more.
+// Holds the number system and the six digits to the standard (D-EAN-3, D-EAN-4). Six digits that
+// stand for a number which the standard writes with six others are refused, those as the figure.
+// REQUIRES: digits, seven or more.
 Refusal CheckUpcEForm(const Characters& text, Conformance& how);
 
-// REQUIRES: the digits of the layout, number system 0 or 1. variant: one of the three EanUpcSymbol
-// of UPC-E.
+// REQUIRES: the digits of the layout, number system 0 or 1. variant: of one of the three
+// EanUpcSymbol of UPC-E.
 void EncodeUpcE(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
 
 }  // namespace barhatch

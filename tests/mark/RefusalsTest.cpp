@@ -72,33 +72,42 @@ TEST(Refusals, CharactersThatASymbologyLacks) {
        "4 at 2+1: character 2 (0x2A '*') is not in Code 39: digits, A-Z, - . $ / + % and space"},
       {2, "AB\x01",
        "4 at 3+1: character 3 (0x01) is not in Code 93: digits, A-Z, - . $ / + % and space"},
-      {3, "95011015310x", "4 at 12+1: character 12 (0x78 'x') is not in EAN-13: 12 digits"},
+      {3, "95011015310x",
+       "4 at 12+1: character 12 (0x78 'x') is not in EAN-13: 12 or 13 digits (and an add-on behind "
+       "+)"},
       {4, "-", "4 at 1+1: character 1 (0x2D '-') is not in MSI: digits"},
-      {9, "0123456789 ", "4 at 11+1: character 11 (0x20) is not in UPC-A: 11 digits"},
+      {9, "0123456789 ",
+       "4 at 11+1: character 11 (0x20) is not in UPC-A: 11 or 12 digits (and an add-on behind +)"},
       {10, "2123456", "4 at 1+1: number system 2 at 1 is none: 0 and 1"},
       {10, "012345a",
-       "4 at 7+1: character 7 (0x61 'a') is not in UPC-E: 7 digits: number system and six"},
+       "4 at 7+1: character 7 (0x61 'a') is not in UPC-E: 6, 7, 8, 11 or 12 digits (and an add-on "
+       "behind +)"},
       {11, "12+3", "4 at 3+1: character 3 (0x2B '+') is not in Code 11: digits and -"},
-      {12, "963850~", "4 at 7+1: character 7 (0x7E '~') is not in EAN-8: 7 digits"},
+      {12, "963850~", "4 at 7+1: character 7 (0x7E '~') is not in EAN-8: 7 or 8 digits"},
       {13, "01234567890a2",
-       "4 at 12+1: character 12 (0x61 'a') is not in UPC-A with 2-digit add-on: 13 digits: 11 and "
-       "2"},
+       "4 at 12+1: character 12 (0x61 'a') is not in UPC-A with 2-digit add-on: 11 or 12 digits "
+       "and 2 (+ may stand between)"},
       {14, "a123456789051234",
-       "4 at 1+1: character 1 (0x61 'a') is not in UPC-A with 5-digit add-on: 16 digits: 11 and 5"},
+       "4 at 1+1: character 1 (0x61 'a') is not in UPC-A with 5-digit add-on: 11 or 12 digits and "
+       "5 (+ may stand between)"},
       {15, "a7713845240112",
-       "4 at 1+1: character 1 (0x61 'a') is not in EAN-13 with 2-digit add-on: 14 digits: 12 and "
-       "2"},
+       "4 at 1+1: character 1 (0x61 'a') is not in EAN-13 with 2-digit add-on: 12 or 13 digits and "
+       "2 (+ may stand between)"},
       {16, "a7807798773054321",
-       "4 at 1+1: character 1 (0x61 'a') is not in EAN-13 with 5-digit add-on: 17 digits: 12 and "
-       "5"},
+       "4 at 1+1: character 1 (0x61 'a') is not in EAN-13 with 5-digit add-on: 12 or 13 digits and "
+       "5 (+ may stand between)"},
       {17, "a50123412",
-       "4 at 1+1: character 1 (0x61 'a') is not in EAN-8 with 2-digit add-on: 9 digits: 7 and 2"},
+       "4 at 1+1: character 1 (0x61 'a') is not in EAN-8 with 2-digit add-on: 7 or 8 digits and 2 "
+       "(+ may stand between)"},
       {18, "a50123454321",
-       "4 at 1+1: character 1 (0x61 'a') is not in EAN-8 with 5-digit add-on: 12 digits: 7 and 5"},
+       "4 at 1+1: character 1 (0x61 'a') is not in EAN-8 with 5-digit add-on: 7 or 8 digits and 5 "
+       "(+ may stand between)"},
       {19, "a12345612",
-       "4 at 1+1: character 1 (0x61 'a') is not in UPC-E with 2-digit add-on: 9 digits: 7 and 2"},
+       "4 at 1+1: character 1 (0x61 'a') is not in UPC-E with 2-digit add-on: 7, 8, 11 or 12 "
+       "digits and 2 (+ may stand between, also behind 6)"},
       {20, "a12345654321",
-       "4 at 1+1: character 1 (0x61 'a') is not in UPC-E with 5-digit add-on: 12 digits: 7 and 5"},
+       "4 at 1+1: character 1 (0x61 'a') is not in UPC-E with 5-digit add-on: 7, 8, 11 or 12 "
+       "digits and 5 (+ may stand between, also behind 6)"},
       {21, "12 4", "4 at 3+1: character 3 (0x20) is not in Interleaved 2 of 5: digits"},
       {22, "A\xC2\x80",
        "4 at 2+2: character 2 (0x80) is not in Code 93, full ASCII: characters from 0 to 127"},
@@ -202,16 +211,24 @@ TEST(Refusals, EmptyTexts) {
 }
 
 TEST(Refusals, LengthsThatASymbologyLacks) {
-  EXPECT_EQ(Published(3, "95011015310"), "5 at 0+0: EAN-13 takes 12 digits, 11 given");
-  EXPECT_EQ(Published(3, "9501101531000"), "5 at 0+0: EAN-13 takes 12 digits, 13 given");
-  EXPECT_EQ(Published(9, "1"), "5 at 0+0: UPC-A takes 11 digits, 1 given");
-  EXPECT_EQ(Published(10, "01234567"),
-            "5 at 0+0: UPC-E takes 7 digits: number system and six, 8 given");
-  EXPECT_EQ(Published(12, "12345678"), "5 at 0+0: EAN-8 takes 7 digits, 8 given");
-  EXPECT_EQ(Published(16, "978077987730543210"),
-            "5 at 0+0: EAN-13 with 5-digit add-on takes 17 digits: 12 and 5, 18 given");
+  EXPECT_EQ(Published(3, "95011015310"),
+            "5 at 0+0: EAN-13 takes 12 or 13 digits (and an add-on behind +), 11 given");
+  EXPECT_EQ(Published(3, "95011015310001"),
+            "5 at 0+0: EAN-13 takes 12 or 13 digits (and an add-on behind +), 14 given");
+  EXPECT_EQ(Published(9, "1"),
+            "5 at 0+0: UPC-A takes 11 or 12 digits (and an add-on behind +), 1 given");
+  EXPECT_EQ(Published(10, "012345678"),
+            "5 at 0+0: UPC-E takes 6, 7, 8, 11 or 12 digits (and an add-on behind +), 9 given");
+  EXPECT_EQ(Published(12, "123456789"), "5 at 0+0: EAN-8 takes 7 or 8 digits, 9 given");
+  EXPECT_EQ(Published(16, "9780779877305432101"),
+            "5 at 0+0: EAN-13 with 5-digit add-on takes 12 or 13 digits and 5 (+ may stand "
+            "between), 19 given");
+  EXPECT_EQ(Published(19, "42526112"),
+            "5 at 0+0: UPC-E with 2-digit add-on takes 7, 8, 11 or 12 digits and 2 (+ may stand "
+            "between, also behind 6), 8 given");
   EXPECT_EQ(Device(13, "012345678901"),
             "5 at 0+0: UPC-A with 2-digit add-on takes 13 digits: 11 and 2, 12 given");
+  EXPECT_EQ(Device(3, "9501101530003"), "5 at 0+0: EAN-13 takes 12 digits, 13 given");
   EXPECT_EQ(Published(0, "AB"),
             "5 at 0+0: Codabar takes digits and - $ : / . + between two of A B C D T N * E, 2 "
             "given");
@@ -222,7 +239,8 @@ TEST(Refusals, TextsThatAreTooLong) {
   const std::string more = Digits(3120);
   EXPECT_TRUE(Mark(PublishedJobOf(4, most.c_str())).IsOk());
   EXPECT_EQ(Published(4, more.c_str()), "5 at 0+0: MSI takes at most 3119 characters, 3120 given");
-  EXPECT_EQ(Published(3, more.c_str()), "5 at 0+0: EAN-13 takes 12 digits, 3120 given");
+  EXPECT_EQ(Published(3, more.c_str()),
+            "5 at 0+0: EAN-13 takes 12 or 13 digits (and an add-on behind +), 3120 given");
   EXPECT_EQ(Published(1, Digits(3115).c_str()),
             "5 at 0+0: Code 39 takes at most 3114 characters, 3115 given");
   EXPECT_EQ(Published(0, ("A" + Digits(3115) + "B").c_str()),
@@ -286,13 +304,50 @@ TEST(Refusals, SymbolsThatTheStandardLeavesOut) {
   EXPECT_EQ(Published(10, "1425261"),
             "12 at 1+1: UPC-E of number system 1 is outside ISO/IEC 15420; set PERMIT");
   EXPECT_EQ(Published(17, "963850712"),
-            "12 at 0+0: an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
+            "12 at 8+2: an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
   EXPECT_EQ(Published(18, "963850712345"),
-            "12 at 0+0: an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
+            "12 at 8+5: an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
+  EXPECT_EQ(Published(12, "9638507+12"),
+            "12 at 8+3: an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
   EXPECT_EQ(Published(10, "0122453"),
-            "12 at 2+6: the six digits at 2 are no UPC-A number without its zeros");
+            "12 at 2+6: the six digits at 2 are no UPC-A number without its zeros: 120452 are");
+  EXPECT_EQ(Published(10, "000009+12"),
+            "12 at 1+6: the six digits at 1 are no UPC-A number without its zeros: 000090 are");
   EXPECT_EQ(Published(20, "012304412345"),
-            "12 at 2+6: the six digits at 2 are no UPC-A number without its zeros");
+            "12 at 2+6: the six digits at 2 are no UPC-A number without its zeros: 123043 are");
+  EXPECT_EQ(Published(10, "012345678905"),
+            "12 at 1+11: the UPC-A number at 1 has no zeros that UPC-E could leave out");
+}
+
+TEST(Refusals, CheckDigitsThatAreWrong) {
+  EXPECT_EQ(Published(3, "9501101530004"), "6 at 13+1: check digit 4 at 13 should be 3");
+  EXPECT_EQ(Published(3, "9501101530004+12"), "6 at 13+1: check digit 4 at 13 should be 3");
+  EXPECT_EQ(Published(9, "036000291459"), "6 at 12+1: check digit 9 at 12 should be 2");
+  EXPECT_EQ(Published(12, "96385070"), "6 at 8+1: check digit 0 at 8 should be 4");
+  EXPECT_EQ(Published(10, "04252615"), "6 at 8+1: check digit 5 at 8 should be 4");
+  EXPECT_EQ(Published(10, "042100005260"), "6 at 12+1: check digit 0 at 12 should be 4");
+  EXPECT_EQ(OfUnits(3, u"9501101530004", BARHATCH_PUBLISHED),
+            "6 at 13+1: check digit 4 at 13 should be 3");
+}
+
+TEST(Refusals, SignsOfAddonsAtAWrongPlace) {
+  EXPECT_EQ(Published(3, "9501101530003+12+34"),
+            "7 at 17+1: a second + at 17: one stands in front of the add-on");
+  EXPECT_EQ(Published(3, "9501101530003+"),
+            "7 at 14+1: 0 digits behind + at 14: the add-on has 2 or 5");
+  EXPECT_EQ(Published(3, "950110153000+1"),
+            "7 at 13+2: 1 digit behind + at 13: the add-on has 2 or 5");
+  EXPECT_EQ(Published(13, "03600029145+123"),
+            "7 at 12+4: 3 digits behind + at 12: the add-on has 2");
+  EXPECT_EQ(Published(20, "425261+12"), "7 at 7+3: 2 digits behind + at 7: the add-on has 5");
+  EXPECT_EQ(
+      Published(9, "+12"),
+      "5 at 1+1: UPC-A takes 11 or 12 digits (and an add-on behind +), 0 given in front of + at 1");
+  EXPECT_EQ(Published(9, "0360002914+12"),
+            "5 at 11+1: UPC-A takes 11 or 12 digits (and an add-on behind +), 10 given in front of "
+            "+ at 11");
+  EXPECT_EQ(Device(3, "950110153000+12"),
+            "4 at 13+1: character 13 (0x2B '+') is not in EAN-13: 12 digits");
 }
 
 TEST(Refusals, PermitLetsThemThroughButForDigitsThatAreNoNumber) {

@@ -265,7 +265,7 @@ TEST_F(EanUpcFamily, AllFiveDigitParitiesAreReadBackBesideEverySymbol) {
 TEST(EanUpcLayouts, AnnounceTheLettersOfTheirTypes) {
   ASSERT_EQ(std::size(kEanUpcLayouts), std::size(kTypes));
   for (std::size_t i = 0; i < std::size(kTypes); ++i) {
-    const std::size_t widerGap = kTypes[i].addonDigits > 0 ? 1 : 0;  // by the book
+    const std::size_t widerGap = kTypes[i].addonDigits > 0 ? 12 - 8 : 0;  // by the book
     EXPECT_EQ(MostModules(kEanUpcLayouts[i]), kTypes[i].modules + widerGap) << kTypes[i].type;
   }
 }
@@ -349,15 +349,15 @@ TEST(EanUpcParities, OfAFiveDigitAddonWithCheckValueSevenAreLGLGL) {
   SymbolWriter builder(RuntimeMemory(), 0, {0, 0});
   builder.Open(8 + 47);
   Conformance how = Conformance::Device();
-  AppendAddon(builder, EanUpcLayoutOf(EanUpcSymbol::kEan13Addon5), "00009", how);
+  AppendAddon(builder, EanUpcVariant(EanUpcSymbol::kEan13Addon5, 0), "00009", how);
   EXPECT_EQ(Take(builder.Release()),
             Modules("00000000 1011 0001101 01 0100111 01 0001101 01 0100111 01 0001011"));
 }
 
-std::string DrawnAddon(EanUpcSymbol symbol, const char* addon, Conformance how) {
+std::string DrawnAddon(EanUpcSymbol symbol, const char* addon, Conformance how, int gap = 0) {
   SymbolWriter out(RuntimeMemory(), 0, {0, 0});
   out.Open(100);
-  AppendAddon(out, EanUpcLayoutOf(symbol), addon, how);
+  AppendAddon(out, EanUpcVariant(symbol, gap), addon, how);
   return *Take(out.Release());
 }
 
@@ -372,6 +372,24 @@ TEST(EanUpcAddon, StandsNineModulesAwayByTheBook) {
   const Conformance published = Conformance::Published();
   EXPECT_EQ(DrawnAddon(EanUpcSymbol::kEan13Addon2, "12", published).size(), 9u + 20u);
   EXPECT_EQ(DrawnAddon(EanUpcSymbol::kUpcAAddon5, "52495", published).size(), 9u + 47u);
+}
+
+TEST(EanUpcAddon, StandsAsFarAwayAsIsAskedForByTheBook) {
+  for (const EanUpcSymbol symbol : {EanUpcSymbol::kEan13Addon2, EanUpcSymbol::kUpcEAddon2}) {
+    for (int gap = 7; gap <= 12; ++gap) {
+      const std::string addon = DrawnAddon(symbol, "12", Conformance::Published(), gap);
+      EXPECT_EQ(addon.find('A'), static_cast<std::size_t>(gap));
+      EXPECT_EQ(addon.size(), static_cast<std::size_t>(gap + 20));
+      EXPECT_EQ(DrawnAddon(symbol, "12", Conformance::Device(), gap).find('A'), 8u);
+    }
+  }
+}
+
+TEST(EanUpcAddon, TheGapHasItsLeastBesideEanAndUpc) {
+  for (const EanUpcLayout& layout : kEanUpcLayouts) {
+    const bool isUpc = layout.mainDigits == 11 || layout.symbol >= EanUpcSymbol::kUpcE;
+    EXPECT_EQ(LeastAddonGapOf(layout.symbol), isUpc ? 9 : 7);
+  }
 }
 
 TEST(EanUpcCheckDigit, WeighsThreeFromTheRightmostDigit) {

@@ -181,11 +181,20 @@ TEST(SymbologyReaders, ValuesAreGivenAsFarAsTheyWereRecognised) {
 
 TEST(SymbologyReaders, ASymbolOfAnotherTypeIsNone) {
   EXPECT_EQ(Report(9, *DrawnByTheBook(3, "950110153100")).text, std::nullopt);
-  EXPECT_EQ(Report(3, *DrawnByTheBook(15, "97713845240112")).text, std::nullopt);
   EXPECT_EQ(Report(15, *DrawnByTheBook(3, "977138452401")).text, std::nullopt);
   EXPECT_EQ(Report(15, *DrawnByTheBook(16, "97808777993054321")).text, std::nullopt);
   EXPECT_EQ(Report(12, *DrawnByTheBook(3, "950110153100")).text, std::nullopt);
   EXPECT_EQ(Report(3, *DrawnByTheBook(9, "03600029145")).text, "0036000291452");
+}
+
+TEST(SymbologyReaders, AnAddonBesideASymbolOfATypeWithoutIsRead) {
+  EXPECT_EQ(Report(3, *DrawnByTheBook(15, "97713845240112")).text, "9771384524017 12");
+  EXPECT_EQ(Report(9, *DrawnByTheBook(14, "0360002914552495")).text, "036000291452 52495");
+  EXPECT_EQ(Report(10, *DrawnByTheBook(20, "042526152495")).text, "04252614 52495");
+  const std::string drawn = *DrawnByTheBook(16, "97808777993054321");
+  EXPECT_EQ(Report(3, drawn.substr(0, drawn.size() - 1)).text, std::nullopt);
+  EXPECT_EQ(Report(3, drawn + "a").text, std::nullopt);
+  EXPECT_EQ(Report(3, drawn.substr(0, 95 + 9)).text, std::nullopt) << "a gap and nothing behind";
 }
 
 TEST(SymbologyReaders, TypesOutsideTheTableAreNotRead) {

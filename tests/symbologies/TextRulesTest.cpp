@@ -106,7 +106,7 @@ const DeviatingText kTakenByTheDevice[] = {
     {{kCode93, "", Reason::kEmpty, -1, 0}, Deviation::kD93_4},
     {{kMsi, "", Reason::kEmpty, -1, 0}, Deviation::kDMSI_1},
     {{kUpcE, "1123455", Reason::kNotStandard, 0, 0}, Deviation::kDEAN_3},
-    {{kUpcE, "0122453", Reason::kNotStandard, 1, 0}, Deviation::kDEAN_4},
+    {{kUpcE, "0122453", Reason::kUpcEForm, 1, 120452}, Deviation::kDEAN_4},
     {{kCode11, "", Reason::kEmpty, -1, 0}, Deviation::kD11_2},
     {{kEan8Addon2, "123456712", Reason::kNotStandard, -1, 0}, Deviation::kDEAN_2},
     {{kUpcEAddon2, "112345512", Reason::kNotStandard, 0, 0}, Deviation::kDEAN_3},
