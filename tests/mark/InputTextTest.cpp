@@ -23,7 +23,7 @@ InputText Utf8(const std::string& bytes) {
 
 // The units, or "broken at 3".
 std::u16string UnitsOf(const InputText& text) {
-  std::size_t count = 0;
+  std::size_t count = 7;  // of a text before
   TextPlace broken = {0, 0};
   if (!text.CountUnits(count, broken)) {
     EXPECT_EQ(broken.extent, 1u);
