@@ -73,11 +73,7 @@ void DescribeExtents(const BarhatchJob& job, const MarkedSymbol& symbol, const E
 }
 
 bool IsMarkable(const BarhatchResult& result) {
-  if (!(result.x_dimension > 0.0 && result.narrowest > 0.0)) return false;
-  for (const double extent : result.total) {
-    if (!(extent >= -kMostExtent && extent <= kMostExtent)) return false;
-  }
-  return true;
+  return result.narrowest > 0.0 && result.total[2] <= kMostExtent && result.total[3] <= kMostExtent;
 }
 
 }  // namespace barhatch

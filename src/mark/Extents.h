@@ -13,7 +13,7 @@ struct Extents {
   double wideSize;
   double barHeight;  // of a linear symbol
   double shiftX;     // of the drawn symbol, whose own origin is its lower-left corner
-  double shiftY;
+  double shiftY;     // 0 where shiftX is
 };
 
 // True for a linear symbol of two widths that has a wide element.
@@ -26,8 +26,9 @@ Extents ExtentsOf(const BarhatchJob& job, const MarkedSymbol& symbol);
 void DescribeExtents(const BarhatchJob& job, const MarkedSymbol& symbol, const Extents& extents,
                      BarhatchResult& result);
 
-// Of what DescribeExtents wrote. False where a module has no width left or the symbol lies so far
-// out that the squares of its coordinates, of which lengths are made, are no numbers.
+// Of what DescribeExtents wrote. False where an element has no width left or the symbol reaches so
+// far to the right or up that the squares of its coordinates, of which lengths are made, are no
+// numbers. To the left and down it lies by its quiet zone at most, which is narrower than the rest.
 bool IsMarkable(const BarhatchResult& result);
 
 }  // namespace barhatch

@@ -87,7 +87,7 @@ Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const Prepar
   const auto quiet = static_cast<std::size_t>(drawn.quietLeft + drawn.quietRight);
   const std::size_t letters = drawn.length - quiet;
   symbol.reading = static_cast<char*>(symbol.memory.Allocate(letters + 1));
-  symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(letters + 1));
+  symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(letters));
   if (symbol.reading == nullptr || symbol.values == nullptr) return {Reason::kNoMemory, -1, 0};
   SymbolReading reading = {symbol.reading, 0, symbol.values, 0};
   symbol.isRead = ReadSymbol(job.symbology, CheckScheme::kOwn, drawn.letters + drawn.quietLeft,

@@ -49,7 +49,7 @@ bool IsGapWide(const BarhatchJob& job, const BarhatchResult& result) {
       job.pattern == BARHATCH_SCAN_LINES || job.pattern == BARHATCH_ALTERNATING_HORIZONTAL;
   if (job.pattern == BARHATCH_POINTS || (isHorizontal && !IsMatrix(job))) return false;
   const double most = job.pattern == BARHATCH_SPIRAL ? result.narrowest / 2 : result.narrowest;
-  return result.narrowest > 0.0 && job.gap > most;
+  return job.gap > most;
 }
 
 // Points are no bars, and elements as wide as others are not told from them.

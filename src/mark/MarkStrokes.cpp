@@ -33,14 +33,14 @@ Refusal MarkStrokes::Count(std::size_t& doubles) {
   const DoubleCount most = MostDoubles(rows_, filling_);
   if (most == kUncountable) return {Reason::kTooManyStrokes, -1, 0};
   doubles = static_cast<std::size_t>(most);
-  return {most > 0 ? Reason::kNone : Reason::kNothingToMark, -1, 0};
+  return {};
 }
 
 Refusal MarkStrokes::Write(double* room, std::size_t doubles, BarhatchResult& result) {
   CoordinateList coordinates(room, doubles);
   Fill(rows_, filling_, coordinates);
   if (coordinates.Count() == 0) return {Reason::kNothingToMark, -1, 0};
-  if (extents_.shiftX != 0.0 || extents_.shiftY != 0.0) {
+  if (extents_.shiftX != 0.0) {
     Translate(room, coordinates.Count(), extents_.shiftX, extents_.shiftY);
   }
   Describe(room, coordinates.Count(), result);

@@ -174,6 +174,21 @@ TEST(Extents, InvertedMarksHaveTheirQuietZoneMarked) {
   EXPECT_EQ(matrix.top, 10.75);
 }
 
+// Nothing is moved and moved back, which would round twice.
+TEST(Extents, QuietZonesThatAreNotMarkedLeaveTheStrokesAlone) {
+  for (const std::int32_t symbology : kMarkSymbologies) {
+    BarhatchJob job = PlainJobOf(symbology);
+    job.x_dimension = 0.1;
+    job.gap = 0.03;
+    const Mark standard(job);
+    job.quiet = -1.0;
+    const Mark none(job);
+    ASSERT_EQ(standard.Doubles(), none.Doubles());
+    EXPECT_EQ(std::memcmp(standard->strokes, none->strokes, sizeof(double) * none.Doubles()), 0)
+        << symbology;
+  }
+}
+
 TEST(Extents, InvertedMarksWithoutAQuietZoneStayWithinTheSymbol) {
   BarhatchJob job = Inverted(Ean8());
   job.quiet = -1.0;
@@ -185,7 +200,8 @@ TEST(Extents, InvertedMarksWithoutAQuietZoneStayWithinTheSymbol) {
 // The same strokes, moved: a quiet zone around an inverted mark is that of one inside.
 TEST(Extents, QuietZonesAroundAreThoseInsideMovedToTheOrigin) {
   for (const std::int32_t symbology : kMarkSymbologies) {
-    const BarhatchJob around = Inverted(PlainJobOf(symbology));
+    BarhatchJob around = Inverted(PlainJobOf(symbology));
+    around.x_dimension = 2.0;
     const Mark inside(Inside(around));
     const Mark moved(around);
     ASSERT_EQ(inside.Doubles(), moved.Doubles());
@@ -201,9 +217,10 @@ TEST(Extents, WithoutStrokesAreThereWhereASizeIs) {
   job.want = BARHATCH_WANT_VALIDATION;
   job.gap = 0.0;
   EXPECT_EQ(ExtentsOf(job), "0 0 67 8; -7 0 74 8");
-  job.x_dimension = 0.0;
-  job.height = 0.0;
-  EXPECT_EQ(ExtentsOf(job), "0 0 0 0; 0 0 0 0");
+  for (const BarhatchJob& without : {Sized(job, 0.0, 0.0, 0.0), Sized(job, 1.0, 0.0, 0.0),
+                                     Sized(job, 0.0, 0.0, 8.0), Sized(job, 1.0, 1.0, 8.0)}) {
+    EXPECT_EQ(ExtentsOf(without), "0 0 0 0; 0 0 0 0");
+  }
 }
 
 TEST(Extents, BeyondTheNumbersAreNoGeometry) {
@@ -220,6 +237,22 @@ TEST(Extents, BeyondTheNumbersAreNoGeometry) {
       EXPECT_EQ(mark.Message(), sentence);
     }
   }
+}
+
+TEST(Extents, OfWideElementsWithoutAnyWidthAreNoGeometry) {
+  BarhatchJob job = Sized(PublishedJobOf(BARHATCH_CODE_39, "A1"), 1e-150, 0.0, 8.0);
+  job.ratio = 1e-200;
+  job.pattern = BARHATCH_POINTS;
+  EXPECT_EQ(Mark(job)->status, BARHATCH_BAD_GEOMETRY);
+  job.ratio = 1e-100;
+  EXPECT_EQ(Mark(job)->status, BARHATCH_OK);
+}
+
+TEST(Extents, UpToTheirLimitAreMarkable) {
+  BarhatchJob job = Sized(Ean8(), 1.0, 0.0, 1e150);
+  job.pattern = BARHATCH_POINTS;
+  EXPECT_EQ(Mark(job)->status, BARHATCH_OK);
+  EXPECT_EQ(Mark(job)->total[3], 1e150);
 }
 
 TEST(Extents, FarOutButMarkable) {

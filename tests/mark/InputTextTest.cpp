@@ -52,7 +52,7 @@ std::string Broken(const InputText& text) {
 
 // The code points of a text by the book.
 std::u32string TokensOf(const InputText& text) {
-  std::size_t count = 0;
+  std::size_t count = 7;  // of a text before
   const std::string broken = Broken(text, count);
   if (!broken.empty()) return std::u32string(broken.begin(), broken.end());
   std::vector<Token> tokens(count);

@@ -47,6 +47,7 @@ constexpr FieldName kLengths[] = {{&BarhatchJob::x_dimension, "x_dimension"},
                                   {&BarhatchJob::jump_delay, "jump_delay"}};
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr double kMost = std::numeric_limits<double>::max();
 constexpr double kNan = std::numeric_limits<double>::quiet_NaN();
 
 }  // namespace
@@ -168,6 +169,8 @@ TEST(JobOptions, OfAMatrix) {
     EXPECT_EQ(Matrix([&](BarhatchJob& job) { job.columns = size; }),
               "2 rows and columns are 0 to 255");
   }
+  EXPECT_EQ(Matrix([](BarhatchJob& job) { job.rows = job.columns = 255; }),
+            "11 255x255 is no size");
   for (const std::int32_t envelope : {-1, 1, 4, 7, 12}) {
     EXPECT_EQ(Matrix([&](BarhatchJob& job) { job.envelope = envelope; }),
               "2 envelope " + std::to_string(envelope) + " is not in this version: 0, 5 and 6");
@@ -210,6 +213,8 @@ TEST(JobGeometry, LengthsHaveAnEnd) {
   for (const FieldName& row : kLengths) {
     EXPECT_EQ(Linear([&](BarhatchJob& job) { job.*row.field = 1.1e150; }),
               std::string("13 ") + row.name + " is above 1e150");
+    EXPECT_EQ(Linear([&](BarhatchJob& job) { job.*row.field = kMost; }),
+              std::string("13 ") + row.name + " is above 1e150");
   }
   EXPECT_EQ(Linear([](BarhatchJob& job) { job.gap = 1e150; }), "0 ");
 }
@@ -220,6 +225,7 @@ TEST(JobGeometry, QuietZones) {
               "13 quiet must be finite and at most 1000 modules");
   }
   EXPECT_EQ(Linear([](BarhatchJob& job) { job.quiet = 1000.0; }), "0 ");
+  EXPECT_EQ(Linear([](BarhatchJob& job) { job.quiet = -kMost; }).substr(0, 2), "0 ");
   EXPECT_EQ(Matrix([](BarhatchJob& job) {
               job.quiet = 999.5;
               job.invert = 1;

@@ -3,6 +3,7 @@
 
 #include <cmath>
 #include <cstdint>
+#include <limits>
 #include <vector>
 
 #include "mark/MarkTesting.h"
@@ -84,14 +85,36 @@ TEST(MarkStrokes, SecondsOfSegmentsHaveBothSpeeds) {
   EXPECT_DOUBLE_EQ(mark->seconds, mark->mark_length / 10.0 + mark->jump_length / 20.0);
 }
 
+TEST(MarkStrokes, SecondsThatAreNoNumberAreNoGeometry) {
+  BarhatchJob job = Ean8(BARHATCH_SCAN_LINES, 4.0);
+  job.mark_speed = 1e-300;
+  job.jump_speed = 1.0;
+  EXPECT_EQ(Mark(job)->status, BARHATCH_OK);
+  job.mark_speed = 1e-308;
+  EXPECT_EQ(Mark(job)->status, BARHATCH_BAD_GEOMETRY);
+}
+
+TEST(MarkStrokes, SecondsMayBeTheLargestNumber) {
+  BarhatchJob job = Ean8(BARHATCH_SCAN_LINES, 4.0);
+  job.x_dimension = 1.6;
+  job.mark_speed = std::nextafter(std::ldexp(Mark(job)->mark_length, -1024), 1.0);
+  job.jump_speed = 1e150;
+  const Mark mark(job);
+  EXPECT_EQ(mark->status, BARHATCH_OK);
+  EXPECT_EQ(mark->seconds, std::numeric_limits<double>::max());
+}
+
 TEST(MarkStrokes, SecondsNeedBothSpeeds) {
   BarhatchJob job = Ean8(BARHATCH_SCAN_LINES, 4.0);
   job.stroke_delay = 1.0;
-  EXPECT_EQ(Mark(job)->seconds, 0.0);
-  job.mark_speed = 10.0;
-  EXPECT_EQ(Mark(job)->seconds, 0.0);
-  job.mark_speed = 0.0;
-  job.jump_speed = 10.0;
+  for (const double markSpeed : {0.0, 10.0}) {
+    job.mark_speed = markSpeed;
+    job.jump_speed = 10.0 - markSpeed;
+    const Mark mark(job);
+    EXPECT_TRUE(mark.IsOk());
+    EXPECT_EQ(mark->seconds, 0.0);
+  }
+  job.mark_speed = job.jump_speed = 0.0;
   EXPECT_EQ(Mark(job)->seconds, 0.0);
 }
 

@@ -84,6 +84,8 @@ TEST(Mark, HasTheSameModulesWhateverQuietZoneIsDrawn) {
                             static_cast<std::size_t>(mark->rows * mark->columns)),
                 0)
           << symbology;
+      EXPECT_EQ(other.Reading(), mark.Reading()) << symbology;
+      EXPECT_EQ(ValuesOf(other), ValuesOf(mark)) << symbology;
     }
   }
 }

@@ -130,6 +130,17 @@ TEST(MarkMemory, OfARefusedFillIsGivenBackToo) {
   EXPECT_EQ(result.block, nullptr);
 }
 
+TEST(MarkMemory, OfAMarkThatIsRefusedWithItsStrokesIsGivenBackToo) {
+  BarhatchJob job = PlainJobOf(BARHATCH_CODE_39);
+  job.mark_speed = 1e-308;
+  job.jump_speed = 1.0;
+  HostMemory memory;
+  BarhatchResult result = EmptyResult();
+  EXPECT_EQ(BarhatchMark(&memory.Serve(job), &result), BARHATCH_BAD_GEOMETRY);
+  EXPECT_EQ(memory.LiveBlocks(), 0u);
+  EXPECT_EQ(result.block, nullptr);
+}
+
 TEST(MarkMemory, ReleasedTwiceIsReleasedOnce) {
   BarhatchJob job = PlainJobOf(BARHATCH_CODE_39);
   HostMemory memory;

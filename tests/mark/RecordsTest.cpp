@@ -37,6 +37,17 @@ std::string StatusOfSize(std::uint32_t size) {
   return std::to_string(mark->status) + " " + mark.Message();
 }
 
+// A refusal without a place: status, sentence and names, and zeros.
+BarhatchResult RefusedResult(const Mark& mark, std::int32_t status) {
+  BarhatchResult result = {};
+  result.size = sizeof result;
+  result.status = status;
+  std::memcpy(result.message, mark->message, sizeof result.message);
+  result.name = mark->name;
+  result.accepts = mark->accepts;
+  return result;
+}
+
 constexpr char kUnknown[] =
     "1 the record has bytes that this library does not know: its header is newer";
 
@@ -61,6 +72,17 @@ TEST(MarkRecords, OfALaterVersionAreRefusedWhereItsFieldsAreSet) {
     record[sizeof(BarhatchJob) + at] = 1;
     EXPECT_EQ(StatusOf(record), kUnknown) << at;
   }
+}
+
+TEST(MarkRecords, OfALaterVersionAreTakenUpTo64KiB) {
+  std::vector<unsigned char> record = LaterRecord(65536 - sizeof(BarhatchJob));
+  BarhatchResult result = {};
+  result.size = sizeof result;
+  const void* const job = record.data();
+  EXPECT_EQ(BarhatchMark(static_cast<const BarhatchJob*>(job), &result), BARHATCH_OK);
+  BarhatchRelease(&result);
+  record.back() = 1;
+  EXPECT_EQ(BarhatchMark(static_cast<const BarhatchJob*>(job), &result), BARHATCH_BAD_RECORD);
 }
 
 // A size that a host forgot to set: nothing is read behind the record that is there.
@@ -115,16 +137,23 @@ TEST(MarkRecords, OfALaterResultKeepTheirSizeAndWhatIsBehind) {
 // The results of the tests are full of 0x5A beforehand.
 TEST(MarkRecords, OfARefusedMarkHaveNothingFromBefore) {
   const Mark mark(PublishedJobOf(BARHATCH_CODE_39, "a"));
-  const std::uint32_t size = sizeof(BarhatchResult);
-  BarhatchResult expected = {};
-  expected.size = size;
-  expected.status = BARHATCH_BAD_CHARACTER;
+  BarhatchResult expected = RefusedResult(mark, BARHATCH_BAD_CHARACTER);
   expected.position = 1;
   expected.extent = 1;
-  std::memcpy(expected.message, mark->message, sizeof expected.message);
-  expected.name = mark->name;
-  expected.accepts = mark->accepts;
-  EXPECT_EQ(std::memcmp(&mark.Result(), &expected, size), 0);
+  EXPECT_EQ(std::memcmp(&mark.Result(), &expected, sizeof expected), 0);
+}
+
+TEST(MarkRecords, OfAMarkRefusedAtItsStrokesHaveNothingOfTheSymbol) {
+  BarhatchJob job = PublishedJobOf(BARHATCH_INTERLEAVED_2_OF_5, "123");
+  job.gap = 1e-12;
+  const Mark linear(job);
+  BarhatchResult expected = RefusedResult(linear, BARHATCH_BAD_GEOMETRY);
+  EXPECT_EQ(std::memcmp(&linear.Result(), &expected, sizeof expected), 0);
+  job = JobOf(BARHATCH_DATA_MATRIX, "123");
+  job.gap = 1e-12;
+  const Mark matrix(job);
+  expected = RefusedResult(matrix, BARHATCH_BAD_GEOMETRY);
+  EXPECT_EQ(std::memcmp(&matrix.Result(), &expected, sizeof expected), 0);
 }
 
 TEST(MarkRecords, ReturnTheStatusOfTheResult) {

@@ -90,6 +90,8 @@ TEST(Warnings, LowByteOfAUnit) {
   EXPECT_EQ(mark.Message(),
             "of a character above 255 the device writes the low byte alone; one that is 0 ends the "
             "text");
+  const BarhatchJob below = JobOf(BARHATCH_CODE_93_FULL, "A\xC3\xBF");  // U+00FF
+  EXPECT_EQ(WarningsOf(below), BARHATCH_W_UNREADABLE);
 }
 
 TEST(Warnings, UnreadableSymbols) {
