@@ -1,0 +1,112 @@
+// What the linear symbologies are judged on. A case is { suite, job, text }; without picture in its
+// job the readers are not asked.
+import { bytes, CAPITALS, DIGITS, SMALL, Texts } from './texts.mjs';
+import { isCode128, PERMIT, SYMBOLOGIES } from './symbologies.mjs';
+
+const BYTES = 1;
+const PATTERNS = [0, 1, 2, 3, 5];
+const RATIOS = [3, 2.5, 2];
+const PIXELS = 4;
+const CLASSES_128 = [DIGITS, DIGITS, CAPITALS, SMALL, bytes(32, 63), bytes(0, 31), bytes(128, 255), bytes(96, 127)];
+const CLASSES_B = [DIGITS, CAPITALS, SMALL, bytes(32, 127)];
+
+const latin1 = (text) => Buffer.from(text, 'latin1');
+
+// A mark to be read; which one in a row of marks it is chooses pattern, ratio and colour.
+function markOf(number, index) {
+  const job = {
+    symbology: number, input: BYTES, flags: index % 3 === 0 ? 0 : PERMIT,
+    pattern: PATTERNS[index % PATTERNS.length], picture: PIXELS,
+  };
+  if (index % 7 === 0) job.invert = 1;
+  if (index % 2 === 0) job.ratio = RATIOS[(index >> 1) % RATIOS.length];
+  return job;
+}
+
+function textOf(row, texts, length) {
+  if (row.isEanUpc) return row.text(texts);
+  if (row.number === 7) return texts.runs(CLASSES_B, length);
+  if (isCode128(row.number)) return texts.runs(CLASSES_128, length);
+  return row.wrap(texts.of(row.alphabet, length), texts);
+}
+
+function* random(row, texts, count) {
+  for (let i = 0; i < count; ++i) {
+    const longest = row.usual ?? 40;
+    yield { suite: 'random', job: markOf(row.number, i), text: textOf(row, texts, 1 + texts.below(longest)) };
+  }
+}
+
+// Every byte alone, first, last and between others, those that are refused too.
+function* everyCharacter(row, texts) {
+  for (let byte = 0; byte < 256; ++byte) {
+    const letter = String.fromCharCode(byte);
+    const around = row.isEanUpc ? row.text(texts) : textOf(row, texts, 6);
+    const at = 1 + texts.below(around.length - 1);
+    const rest = row.isEanUpc ? around.slice(at + 1) : around.slice(at);
+    yield { suite: 'characters', job: markOf(row.number, byte), text: around.slice(0, at) + letter + rest };
+    if (!row.isEanUpc) yield { suite: 'characters', job: markOf(row.number, byte), text: row.wrap(letter, texts) };
+  }
+}
+
+function* everyLength(row, texts) {
+  for (let length = 0; length <= 40; ++length) {
+    for (let i = 0; i < 3; ++i) {
+      const text = row.isEanUpc ? texts.of(DIGITS, length) : textOf(row, texts, length);
+      yield { suite: 'lengths', job: markOf(row.number, length + i), text };
+    }
+  }
+  if (row.isEanUpc) return;
+  for (const length of [41, 60, 79, 80, 81, 100, 200, 250, 300]) {
+    yield { suite: 'lengths', job: markOf(row.number, length), text: textOf(row, texts, length) };
+  }
+}
+
+// Texts of docs/deviations.md: what the device writes otherwise.
+const REGISTER = {
+  0: ['1234', 'A1234', '1234B', 'AB', 'A', 'T1*', 'N1E', '*1N', 'E1T', 'A1B2C', ''],
+  1: ['W', '/', 'E', 'EFGHIJKLMNOPQRSTUVWXYZ', 'A*B', '*', '%%', 'A%%B', '%s%d', '%%%', '100%', 'abc', ''],
+  2: ['$', '%', '+', '/', '$%+/', 'A$B%C+D/E', 'a', ''],
+  22: ['$', '%', '+', '/', '$%+/', 'a$b%', '0\x80', '\x80A', '\xff', '\x7f', ''],
+  3: ['950110153100', '000000000000', '999999999999', '9501101531000', '9501101531001'],
+  4: ['', '0', '00', '1234567', DIGITS.repeat(10)],
+  11: ['', '1234567890', '123456789', '12345678901', '123-45', '----------', '-----------'],
+  21: ['', '1', '12', '123', '12345', '123456', '1234567', '12345678901234'],
+  5: ['123', '12345', 'A1', 'A1234567', '1', '12a', 'A\x7fB', '\x80', '\xe9\xe9\xe9\xe9\xe9', 'x'.repeat(79), 'x'.repeat(80)],
+  6: ['A\x7fB', '\x7f', '\x00', 'a', 'A'.repeat(79), 'A'.repeat(80)],
+  7: ['A\x7fB', '\x1f', 'x'.repeat(79), 'x'.repeat(80)],
+  8: ['1', '12', '123', '1'.repeat(158), '1'.repeat(160), 'A12'],
+  9: ['03600029145', '00000000000', '99999999999', '036000291452', '036000291453', '0425261', '04252614'],
+  10: ['0425261', '1425261', '0000003', '0000103', '0000203', '0000303', '0123403', '0100004', '0100014', '0123404', '0123405', '0123415', '0123409', '04252614', '04252615',
+       '04210000526', '042100005264', '042100005265', '12345678901'],
+  12: ['9638507', '96385074', '96385075'],
+  13: ['0360002914512'], 14: ['0360002914552495'], 15: ['97713845240112'], 16: ['97808777993054321'],
+  17: ['963850712'], 18: ['963850752495'], 19: ['042526112', '142526112'], 20: ['042526152495', '142526152495'],
+};
+
+function* ofTheRegister(row) {
+  for (const text of REGISTER[row.number]) {
+    for (const flags of [0, PERMIT]) {
+      yield { suite: 'register', job: { ...markOf(row.number, 1), flags }, text };
+    }
+  }
+}
+
+// Lengths of Code 128 alone: nobody reads these.
+function* lengthsOfCode128(texts, count) {
+  for (let i = 0; i < count; ++i) {
+    const text = texts.runs(CLASSES_128, 1 + texts.below(60));
+    yield { suite: 'shortest', job: { symbology: 5, input: BYTES }, text };
+  }
+}
+
+export function linearCases(share) {
+  const cases = [];
+  for (const row of SYMBOLOGIES) {
+    const texts = new Texts(1000 + row.number);
+    cases.push(...random(row, texts, Math.ceil(1000 * share)), ...everyCharacter(row, texts));
+    cases.push(...everyLength(row, texts), ...ofTheRegister(row));
+  }
+  cases.push(...lengthsOfCode128(new Texts(128), Math.ceil(10000 * share)));
+  return cases.map((one) => ({ ...one, text: latin1(one.text) }));
+}
