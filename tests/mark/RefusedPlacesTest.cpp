@@ -74,11 +74,11 @@ bool IsOfCharacter(const Mark& mark) {
 // left, if anything, has no place, stands behind it or is of another kind: characters that the
 // symbology lacks are named from the left.
 bool IsMended(BarhatchJob job, const std::string& text, const Mark& refused) {
-  for (const std::string& instead : {std::string("1"), std::string("0"), std::string("A")}) {
+  for (const char instead : std::string("10A23456789")) {
     std::string mended = text;
     const auto extent = static_cast<std::size_t>(refused->extent);
     mended.replace(static_cast<std::size_t>(refused->position - 1), extent,
-                   extent == 6 ? "234561" : instead);
+                   extent == 6 ? "234561" : std::string(1, instead));
     job.text = mended.data();
     job.length = mended.size();
     const Mark mark(job);
