@@ -70,9 +70,8 @@ bool IsOfCharacter(const Mark& mark) {
   return mark.Message().find(" is not in ") != std::string::npos;
 }
 
-// True where one of the usual characters instead of the named ones removes the refusal: what is
-// left, if anything, has no place, stands behind it or is of another kind: characters that the
-// symbology lacks are named from the left.
+// True where one of the usual characters instead of the named ones removes the refusal. What is
+// left may be another one. Characters that the symbology lacks are named from the left.
 bool IsMended(BarhatchJob job, const std::string& text, const Mark& refused) {
   for (const char instead : std::string("10A23456789")) {
     std::string mended = text;
@@ -82,10 +81,10 @@ bool IsMended(BarhatchJob job, const std::string& text, const Mark& refused) {
     job.text = mended.data();
     job.length = mended.size();
     const Mark mark(job);
-    const bool isBehind = mark->position == 0 || mark->position > refused->position;
-    const bool isOther =
-        mark->position != refused->position && !(IsOfCharacter(mark) && IsOfCharacter(refused));
-    if (mark.IsOk() || isBehind || isOther) return true;
+    const bool isSame = mark->status == refused->status && mark->position == refused->position;
+    const bool isEarlier =
+        IsOfCharacter(mark) && IsOfCharacter(refused) && mark->position < refused->position;
+    if (!isSame && !isEarlier) return true;
   }
   return false;
 }
