@@ -19,6 +19,9 @@ enum class Reason : std::uint8_t {
   kEndInside,           // position: of a start or stop character between others
   kNumberSystem,        // position: of a number system that there is none
   kCheck,               // position: of a wrong check character; figure: the right one
+  kNoCheck,             // a check of 10, which no digit writes
+  kOnlyCheck,           // check characters without data in front of them
+  kCheckCount,          // figure: characters that are none of data and its check characters
   kNoStart,             // position: where a start character should stand
   kNoStop,              // position: where a stop character should stand
   kNotStandard,         // a symbol that the standard leaves out

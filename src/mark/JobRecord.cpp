@@ -14,8 +14,8 @@ namespace {
 constexpr std::uint32_t kMostRecordBytes = 65536;  // whatever comes: more is no size, but garbage
 constexpr std::int32_t kMostRows = 255;            // a request has one byte for each
 constexpr std::uint32_t kMatrixFlags = BARHATCH_FNC1_SECOND | BARHATCH_MAY_GROW;
-constexpr std::uint32_t kFlags =
-    kMatrixFlags | BARHATCH_QUIET_INSIDE | BARHATCH_PERMIT | BARHATCH_NO_PROOF;
+constexpr std::uint32_t kFlags = kMatrixFlags | BARHATCH_QUIET_INSIDE | BARHATCH_PERMIT |
+                                 BARHATCH_NO_PROOF | BARHATCH_ADD_START_STOP;
 constexpr std::int32_t kEveryWant = 63;
 constexpr double kMostQuietModules = 1000.0;
 constexpr double kMostLength = 1e150;  // whose square still is a number
@@ -29,11 +29,8 @@ struct ComingField {
 };
 
 constexpr ComingField<std::int32_t> kComingIntegers[] = {
-    {&BarhatchJob::check, "check"},
-    {&BarhatchJob::eci, "eci"},
-    {&BarhatchJob::shape, "shape"},
-    {&BarhatchJob::profile, "profile"},
-    {&BarhatchJob::dots_per_module, "dots_per_module"},
+    {&BarhatchJob::eci, "eci"},         {&BarhatchJob::shape, "shape"},
+    {&BarhatchJob::profile, "profile"}, {&BarhatchJob::dots_per_module, "dots_per_module"},
     {&BarhatchJob::order, "order"},
 };
 
@@ -101,14 +98,14 @@ std::int32_t RefuseNumber(const char* name, std::int32_t number, const char* res
 std::int32_t CheckSymbology(const BarhatchJob& job, Message& message) {
   const SymbologyName* const name = NameOf(job.symbology);
   if (name == nullptr) {
-    return RefuseNumber("symbology", job.symbology, " is none: 0 to 22 and 100", message);
-  }
-  if (job.symbology > BARHATCH_DATA_MATRIX) {
-    message << name->name << " is not in this version";
-    return BARHATCH_BAD_OPTION;
+    return RefuseNumber("symbology", job.symbology, " is none: 0 to 22 and 100 to 102", message);
   }
   if (job.conformance != BARHATCH_PUBLISHED && job.conformance != BARHATCH_DEVICE) {
     return RefuseNumber("conformance", job.conformance, " is none: 0 and 1", message);
+  }
+  if (job.conformance == BARHATCH_DEVICE && job.symbology > BARHATCH_DATA_MATRIX) {
+    message << name->name << " is no type of the device; conformance PUBLISHED writes it";
+    return BARHATCH_BAD_OPTION;
   }
   if (job.conformance == BARHATCH_PUBLISHED && IsMatrix(job)) {
     message
@@ -165,6 +162,34 @@ std::int32_t CheckLinearOptions(const BarhatchJob& job, Message& message) {
   if (!isOfMatrix) return BARHATCH_OK;
   return Refuse(BARHATCH_BAD_OPTION,
                 "rows, columns, envelope, FNC1_SECOND and MAY_GROW are for Data Matrix", message);
+}
+
+static_assert(static_cast<int>(CheckScheme::kVerify) == BARHATCH_CHECK_VERIFY &&
+                  static_cast<int>(CheckScheme::kModulo43) == BARHATCH_CHECK_MOD_43 &&
+                  static_cast<int>(CheckScheme::kInterleaved10) == BARHATCH_CHECK_ITF_10 &&
+                  static_cast<int>(CheckScheme::kMsi10) == BARHATCH_MSI_10 &&
+                  static_cast<int>(CheckScheme::kMsiNcr11And10) == BARHATCH_MSI_NCR_11_10 &&
+                  static_cast<int>(CheckScheme::kCode11CAndK) == BARHATCH_CODE_11_CK,
+              "the schemes have the numbers of job.check");
+
+bool HasScheme(const BarhatchJob& job) {
+  if (job.check == BARHATCH_CHECK_OWN) return true;
+  const SymbologyRow* const row = RowOf(job.symbology);
+  if (row == nullptr || job.conformance == BARHATCH_DEVICE) return false;
+  const bool isScheme = job.check > 0 && job.check <= BARHATCH_CODE_11_CK;
+  return isScheme && (row->checks & BitOf(static_cast<CheckScheme>(job.check))) != 0;
+}
+
+std::int32_t CheckSchemeOf(const BarhatchJob& job, Message& message) {
+  if (!HasScheme(job)) {
+    message << "check " << job.check << " is not a scheme of "
+            << (job.conformance == BARHATCH_DEVICE ? "the device" : NameOf(job.symbology)->name);
+    return BARHATCH_BAD_OPTION;
+  }
+  const bool addsEnds = (job.flags & BARHATCH_ADD_START_STOP) != 0;
+  const bool hasEnds = job.symbology == BARHATCH_CODABAR && job.conformance == BARHATCH_PUBLISHED;
+  if (!addsEnds || hasEnds) return BARHATCH_OK;
+  return Refuse(BARHATCH_BAD_OPTION, "ADD_START_STOP is for Codabar by the book", message);
 }
 
 std::int32_t CheckChoices(const BarhatchJob& job, Message& message) {
@@ -246,6 +271,7 @@ std::int32_t CheckOptions(const BarhatchJob& job, Message message) {
     status = IsMatrix(job) ? CheckMatrixOptions(job, message) : CheckLinearOptions(job, message);
   }
   if (status == BARHATCH_OK) status = CheckAddonGap(job, message);
+  if (status == BARHATCH_OK) status = CheckSchemeOf(job, message);
   if (status == BARHATCH_OK) status = CheckComing(job, kComingIntegers, message);
   if (status == BARHATCH_OK) status = CheckComing(job, kComingLengths, message);
   if (status == BARHATCH_OK) status = CheckPointers(job, message);

@@ -90,13 +90,23 @@ Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const Prepar
   symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(letters));
   if (symbol.reading == nullptr || symbol.values == nullptr) return {Reason::kNoMemory, -1, 0};
   SymbolReading reading = {symbol.reading, 0, symbol.values, 0};
-  symbol.isRead = ReadSymbol(job.symbology, CheckScheme::kOwn, drawn.letters + drawn.quietLeft,
-                             letters, reading);
+  symbol.isRead = ReadSymbol(job.symbology, LinearOptionsOf(job).check,
+                             drawn.letters + drawn.quietLeft, letters, reading);
   symbol.readingLength = reading.textLength;
   symbol.valuesCount = reading.valuesCount;
   const bool isText = symbol.isRead && IsReadingOfLinear(text.reading, {text.room, text.length},
                                                          {symbol.reading, symbol.readingLength});
   if (!isText) symbol.warnings |= BARHATCH_W_UNREADABLE;
+  return {};
+}
+
+// What stands beside the symbol where it is not the reading.
+Refusal KeepForPeople(const PreparedText& text, MarkedSymbol& symbol) {
+  if (!text.isForPeople) return {};
+  symbol.people = static_cast<char*>(symbol.memory.Allocate(text.length + 1));
+  if (symbol.people == nullptr) return {Reason::kNoMemory};
+  std::memcpy(symbol.people, text.room, text.length + 1);
+  symbol.peopleLength = text.length;
   return {};
 }
 
@@ -125,7 +135,8 @@ Refusal Finish(const BarhatchJob& job, const LinearSymbol& drawn, const Prepared
   symbol.columns = static_cast<int>(drawn.length);
   symbol.drawnQuiet = {drawn.quietLeft, drawn.quietRight, 0, 0};
   Describe(job, text, symbol);
-  return ReadBack(job, drawn, text, symbol);
+  const Refusal refusal = KeepForPeople(text, symbol);
+  return refusal.IsRefused() ? refusal : ReadBack(job, drawn, text, symbol);
 }
 
 Refusal MakeAsTheDevice(const BarhatchJob& job, const InputText& text, std::size_t units,

@@ -28,6 +28,7 @@ struct MarkedSymbol {
     memory.Release(letters);
     memory.Release(reading);
     memory.Release(values);
+    memory.Release(people);
   }
   MarkedSymbol(const MarkedSymbol&) = delete;
   MarkedSymbol& operator=(const MarkedSymbol&) = delete;
@@ -46,6 +47,9 @@ struct MarkedSymbol {
   std::size_t readingLength = 0;
   std::uint8_t* values = nullptr;
   std::size_t valuesCount = 0;
+
+  char* people = nullptr;  // text for people, with a NUL, where it is not the reading
+  std::size_t peopleLength = 0;
 
   std::uint32_t warnings = 0;
 };

@@ -24,8 +24,15 @@ Refusal Finish(SymbolWriter& out, const QuietModules& quiet, LinearSymbol& symbo
 
 PreparedText GivenText(const SymbologyRow& row, char* room, std::size_t length) {
   const DrawingRow& drawing = row.drawing;
-  return {&drawing.text,   room,        length,
-          drawing.variant, row.reading, {drawing.quietLeft, drawing.quietRight}};
+  PreparedText text = {};
+  text.rule = &drawing.text;
+  text.room = room;
+  text.length = length;
+  text.encode = drawing.encode;
+  text.variant = drawing.variant;
+  text.reading = row.reading;
+  text.quiet = {drawing.quietLeft, drawing.quietRight};
+  return text;
 }
 
 Refusal DrawPublished(const SymbologyRow& row, const LinearOptions& options,
@@ -36,7 +43,8 @@ Refusal DrawPublished(const SymbologyRow& row, const LinearOptions& options,
 
   const QuietModules quiet = QuietOf(quietModules, text.quiet);
   SymbolWriter out(memory, 0, quiet);
-  row.drawing.encode({text.room, text.length}, text.variant, how, out);
+  const bool isRoom = text.drawn.text == nullptr;
+  text.encode(isRoom ? Characters{text.room, text.length} : text.drawn, text.variant, how, out);
   return Finish(out, quiet, symbol);
 }
 

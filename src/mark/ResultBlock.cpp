@@ -26,11 +26,12 @@ struct BlockParts {
   std::size_t modules = 0;
   std::size_t values = 0;
   std::size_t reading = 0;
+  std::size_t people = 0;
   std::size_t deviations = 0;
 
   // False where a machine has no such block.
   bool Sum(std::size_t& bytes) const {
-    bytes = kHeadBytes + modules + values + reading + deviations;
+    bytes = kHeadBytes + modules + values + reading + people + deviations;
     const std::size_t most = static_cast<std::size_t>(PTRDIFF_MAX) - bytes;
     if (doubles > most / sizeof(double)) return false;
     bytes += doubles * sizeof(double);
@@ -49,6 +50,7 @@ BlockParts PartsOf(const BarhatchJob& job, const MarkedSymbol& symbol, Deviation
   if (Wants(job, BARHATCH_WANT_MODULES)) parts.modules = ModulesOf(symbol);
   if (Wants(job, BARHATCH_WANT_VALUES)) parts.values = symbol.valuesCount;
   if (Wants(job, BARHATCH_WANT_READING) && symbol.isRead) parts.reading = symbol.readingLength + 1;
+  if (parts.reading != 0 && symbol.people != nullptr) parts.people = symbol.peopleLength + 1;
   if (Wants(job, BARHATCH_WANT_DEVIATIONS)) parts.deviations = DeviationTextLength(met) + 1;
   return parts;
 }
@@ -103,6 +105,11 @@ void WriteParts(const BlockParts& parts, const BarhatchJob& job, const MarkedSym
     result.reading = reading;
     result.reading_length = symbol.readingLength;
     if (!IsMatrix(job)) result.hri = reading;
+  }
+  if (parts.people != 0) {
+    char* const people = block.Take<char>(parts.people);
+    std::memcpy(people, symbol.people, parts.people);
+    result.hri = people;
   }
   if (parts.deviations != 0) {
     char* const text = block.Take<char>(parts.deviations);

@@ -30,6 +30,9 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kEndInside, BARHATCH_BAD_CHARACTER},
     {Reason::kNumberSystem, BARHATCH_BAD_CHARACTER},
     {Reason::kCheck, BARHATCH_BAD_CHECK},
+    {Reason::kNoCheck, BARHATCH_BAD_CHECK},
+    {Reason::kOnlyCheck, BARHATCH_BAD_LENGTH},
+    {Reason::kCheckCount, BARHATCH_BAD_LENGTH},
     {Reason::kNoStart, BARHATCH_BAD_SYNTAX},
     {Reason::kNoStop, BARHATCH_BAD_SYNTAX},
     {Reason::kNotStandard, BARHATCH_NOT_STANDARD},
@@ -138,6 +141,7 @@ void SayNotStandard(const BarhatchJob& job, Message& message) {
 }
 
 Message& SayCharacterCode(std::int32_t code, Message& message) {
+  if (code <= ' ' || code > '~') return message.Code(code);
   const char text[] = {static_cast<char>(code), '\0'};
   return message << text;
 }
@@ -262,6 +266,15 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
       break;
     case Reason::kCheck:
       SayCheck(job, refusal.figure, place, message);
+      break;
+    case Reason::kNoCheck:
+      message << "the check digit modulo 11 of this text would be 10: it has none";
+      break;
+    case Reason::kOnlyCheck:
+      message << name.name << " needs a character in front of the check character";
+      break;
+    case Reason::kCheckCount:
+      message << refusal.figure << " characters are none with check characters of " << name.name;
       break;
     case Reason::kNoStart:
       message << "start character missing at " << place;

@@ -75,7 +75,60 @@ int RowOf(char character) { return kRows.of[static_cast<unsigned char>(character
 
 bool IsStartStop(char character) { return (ClassesOf(character) & kClassCodabarEnds) != 0; }
 
+// Of all characters but the one at a place.
+char CheckCharacter(const PreparedText& text, std::size_t but) {
+  int sum = 0;
+  for (std::size_t i = 0; i < text.length; ++i) sum += i == but ? 0 : RowOf(text.room[i]);
+  const int check = (kCodabarCheckModulus - sum % kCodabarCheckModulus) % kCodabarCheckModulus;
+  return kCodabarCharacters[check].character;
+}
+
+bool HasAnEnd(const PreparedText& text) {
+  return IsStartStop(text.room[0]) || IsStartStop(text.room[text.length - 1]);
+}
+
+// A place behind a start that was put in front of the text.
+Refusal BehindStart(Refusal refusal) {
+  if (refusal.position > 0) --refusal.position;
+  return refusal;
+}
+
+// As its rule takes the text, with start and stop put in where the options ask for them.
+Refusal CheckEnds(const LinearOptions& options, PreparedText& text, Conformance& how) {
+  TextRule characters = *text.rule;
+  characters.form = nullptr;
+  const Refusal refusal = CheckText(characters, text.room, text.length, how);
+  if (refusal.IsRefused()) return refusal;
+  if (!options.addsStartStop || HasAnEnd(text)) {
+    return CheckCodabarForm({text.room, text.length}, how);
+  }
+  Insert(text, 0, 'A');
+  Insert(text, text.length, 'A');
+  return BehindStart(CheckCodabarForm({text.room, text.length}, how));
+}
+
+// In front of the stop.
+Refusal VerifyCheck(const PreparedText& text) {
+  if (text.length < 4) return {Reason::kOnlyCheck};
+  const std::size_t place = text.length - 2;
+  return VerifyCharacter(text, place, CheckCharacter(text, place));
+}
+
 }  // namespace
+
+Refusal PrepareCodabar(const LinearOptions& options, PreparedText& text, Conformance& how) {
+  const std::size_t given = text.length;
+  const Refusal refusal = CheckEnds(options, text, how);
+  if (refusal.IsRefused()) return refusal;
+  if (options.check == CheckScheme::kVerify) {
+    const Refusal wrong = VerifyCheck(text);
+    return text.length > given ? BehindStart(wrong) : wrong;
+  }
+  if (options.check == CheckScheme::kModulo16) {
+    Insert(text, text.length - 1, CheckCharacter(text, text.length));
+  }
+  return {};
+}
 
 const char* CodabarElements(char character) {
   return kCodabarCharacters[RowOf(character)].elements;

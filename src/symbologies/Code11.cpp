@@ -91,7 +91,51 @@ CheckValues ComputeCheckValues(const Characters& text, Conformance& how) {
   return {2, {c, weightedForK.Modulo(kCode11CheckModulus)}};
 }
 
+// Of the characters in front of a place.
+char CheckCharacter(const PreparedText& text, std::size_t length, int longestWeight) {
+  CyclicWeightedSum sum(1, longestWeight);
+  AddFromTheRight({text.room, length}, sum);
+  return kCode11Characters[sum.Modulo(kCode11CheckModulus)].character;
+}
+
+void AppendChecks(int count, PreparedText& text) {
+  constexpr int kLongestWeights[] = {kCode11LongestWeightOfC, kCode11LongestWeightOfK};
+  for (int i = 0; i < count; ++i)
+    Insert(text, text.length, CheckCharacter(text, text.length, kLongestWeights[i]));
+  text.reading.behind = static_cast<std::uint8_t>(count);
+}
+
+// C is behind ten characters at most, C and K are behind eleven at least.
+Refusal VerifyChecks(PreparedText& text) {
+  constexpr std::size_t kNeither = kCode11LongestTextWithC + 2;
+  if (text.length < 2) return {Reason::kOnlyCheck};
+  if (text.length == kNeither) return {Reason::kCheckCount, -1, static_cast<int>(kNeither)};
+  const bool hasK = text.length > kNeither;
+  text.reading.behind = hasK ? 2 : 1;
+  const std::size_t c = text.length - text.reading.behind;
+  const Refusal refusal =
+      VerifyCharacter(text, c, CheckCharacter(text, c, kCode11LongestWeightOfC));
+  if (refusal.IsRefused() || !hasK) return refusal;
+  return VerifyCharacter(text, c + 1, CheckCharacter(text, c + 1, kCode11LongestWeightOfK));
+}
+
 }  // namespace
+
+int Code11CheckCharactersOf(CheckScheme check, std::size_t length) {
+  if (check == CheckScheme::kNone) return 0;
+  if (check == CheckScheme::kCode11C) return 1;
+  return check == CheckScheme::kCode11CAndK || length > kCode11LongestTextWithC ? 2 : 1;
+}
+
+Refusal PrepareCode11(const LinearOptions& options, PreparedText& text, Conformance& how) {
+  const Refusal refusal = CheckCharacters(text, how);
+  if (refusal.IsRefused()) return refusal;
+  text.encode = EncodeCode11Characters;
+  text.isForPeople = true;
+  if (options.check == CheckScheme::kVerify) return VerifyChecks(text);
+  AppendChecks(Code11CheckCharactersOf(options.check, text.length), text);
+  return {};
+}
 
 int Code11Value(const char* letters) { return kValues.Find(letters); }
 
@@ -106,6 +150,18 @@ void EncodeCode11(const Characters& text, int /*variant*/, Conformance& how, Sym
   for (std::size_t i = 0; i < text.length; ++i)
     at = CopyLetters(at, kLetters.rows[ValueOf(text.text[i])]);
   for (int i = 0; i < check.count; ++i) at = CopyLetters(at, kLetters.rows[check.values[i]]);
+  out.AppendElements(kStartStopElements);
+}
+
+void EncodeCode11Characters(const Characters& text, int /*variant*/, Conformance& /*how*/,
+                            SymbolWriter& out) {
+  const std::size_t letters = 6 * (text.length + 1);
+  out.Open(letters + 5);
+  char* at = out.Room(letters);
+  if (at == nullptr) return;
+  at = CopyLetters(at, kLetters.rows[kCode11StartStop]);
+  for (std::size_t i = 0; i < text.length; ++i)
+    at = CopyLetters(at, kLetters.rows[ValueOf(text.text[i])]);
   out.AppendElements(kStartStopElements);
 }
 

@@ -124,7 +124,45 @@ const Letters& LettersOf(char character, Conformance& how) {
   return kLetters.rows[kRows.of[static_cast<unsigned char>(character)]];
 }
 
+// ISO/IEC 16388, check character: the signs from value 36 on.
+constexpr char kSigns[] = "-. $/+%";
+
+char CharacterOfValue(int value) {
+  return value < kCode39StartStop ? kCode39Characters[value].character
+                                  : kSigns[value - kCode39StartStop];
+}
+
+Refusal VerifyCheck(const PreparedText& text) {
+  if (text.length < 2) return {Reason::kOnlyCheck};
+  const std::size_t last = text.length - 1;
+  return VerifyCharacter(text, last, Code39CheckCharacter({text.room, last}));
+}
+
 }  // namespace
+
+int Code39ValueOfRow(int row) {
+  if (row < kCode39StartStop) return row;
+  int sign = 0;
+  while (kSigns[sign] != kCode39Characters[row].character) ++sign;
+  return kCode39StartStop + sign;
+}
+
+char Code39CheckCharacter(const Characters& text) {
+  int sum = 0;
+  for (std::size_t i = 0; i < text.length; ++i)
+    sum += Code39ValueOfRow(kRows.of[static_cast<unsigned char>(text.text[i])]);
+  return CharacterOfValue(sum % kCode39CheckModulus);
+}
+
+Refusal PrepareCode39(const LinearOptions& options, PreparedText& text, Conformance& how) {
+  const Refusal refusal = CheckCharacters(text, how);
+  if (refusal.IsRefused()) return refusal;
+  if (options.check == CheckScheme::kVerify) return VerifyCheck(text);
+  if (options.check == CheckScheme::kModulo43) {
+    Insert(text, text.length, Code39CheckCharacter({text.room, text.length}));
+  }
+  return {};
+}
 
 const char* Code39TableElements(int index, Conformance& how) {
   const Code39Character& row = kCode39Characters[index];

@@ -23,23 +23,34 @@ using Reader = bool (*)(const char* letters, std::size_t length, ReaderSetting s
 
 // TwoWidthReaders.cpp: elements that are wide or narrow.
 //
-// Starts and stops with A to D, which stand nowhere else.
+// Starts and stops with A to D, which stand nowhere else. A check character modulo 16 is tested and
+// reported.
 bool ReadCodabar(const char* letters, std::size_t length, ReaderSetting setting,
                  SymbolReading& reading);
-// From the start character to the first stop character, whatever stands behind it.
+// From the start character to the first stop character, whatever stands behind it. A check
+// character modulo 43 is tested and reported.
 bool ReadCode39(const char* letters, std::size_t length, ReaderSetting setting,
                 SymbolReading& reading);
-// C and K where more than ten data characters are left in front of them, else C alone.
+// Full ASCII resolved. A check character is tested and left out.
+bool ReadCode39FullAscii(const char* letters, std::size_t length, ReaderSetting setting,
+                         SymbolReading& reading);
+// Where the setting has no other scheme: C and K where more than ten data characters are left in
+// front of them, else C alone.
 bool ReadCode11(const char* letters, std::size_t length, ReaderSetting setting,
                 SymbolReading& reading);
+// A check digit is tested and reported.
 bool ReadInterleaved2of5(const char* letters, std::size_t length, ReaderSetting setting,
                          SymbolReading& reading);
+
+// 14 digits, the last of which is the check digit of the others.
+bool ReadItf14(const char* letters, std::size_t length, ReaderSetting setting,
+               SymbolReading& reading);
 
 // ModuleReaders.cpp: single modules, characters of one size.
 //
 bool ReadCode93(const char* letters, std::size_t length, ReaderSetting setting,
                 SymbolReading& reading);
-// One modulo-10 check digit.
+// The check digits of the setting's scheme; one of modulo 10 where it has no other.
 bool ReadMsi(const char* letters, std::size_t length, ReaderSetting setting,
              SymbolReading& reading);
 

@@ -96,7 +96,36 @@ char* DrawPair(char* at, char first, char second) {
   return at;
 }
 
+void AppendCheck(PreparedText& text, Conformance& how) {
+  Insert(text, text.length, Interleaved2of5CheckDigit({text.room, text.length}, how));
+}
+
+Refusal VerifyCheck(const PreparedText& text, Conformance& how) {
+  if (text.length < 2) return {Reason::kOnlyCheck};
+  const std::size_t last = text.length - 1;
+  return VerifyCharacter(text, last, Interleaved2of5CheckDigit({text.room, last}, how));
+}
+
 }  // namespace
+
+Refusal PrepareInterleaved2of5(const LinearOptions& options, PreparedText& text, Conformance& how) {
+  const Refusal refusal = CheckCharacters(text, how);
+  if (refusal.IsRefused()) return refusal;
+  if (options.check == CheckScheme::kVerify) return VerifyCheck(text, how);
+  if (options.check == CheckScheme::kInterleaved10) AppendCheck(text, how);
+  return {};
+}
+
+Refusal PrepareItf14(const LinearOptions& options, PreparedText& text, Conformance& how) {
+  const Refusal refusal = CheckCharacters(text, how);
+  if (refusal.IsRefused()) return refusal;
+  if (text.length == kItf14Digits) return VerifyCheck(text, how);
+  if (options.check == CheckScheme::kVerify) {
+    return {Reason::kLength, -1, static_cast<std::int32_t>(text.length)};
+  }
+  AppendCheck(text, how);
+  return {};
+}
 
 char Interleaved2of5CheckDigit(const Characters& digits, Conformance& how) {
   const bool startsOnTheLeft = how.Deviates(Deviation::kD25_1);

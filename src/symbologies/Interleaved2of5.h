@@ -1,6 +1,6 @@
 // Interleaved 2 of 5 (ISO/IEC 16390): digits in pairs, the first digit of a pair in the bars and
-// the second in the spaces. An odd number of digits gets a '0' in front. No check digit is added:
-// the one that the text may end with is the host's.
+// the second in the spaces. An odd number of digits gets a '0' in front. No check digit is added
+// unless a host asks for it by the book; the one that the text may end with is the host's.
 //
 // "12" becomes AaAa BaAbAaAaBb BaA: start, the bars WNNNW of 1 with the spaces NWNNW of 2 between
 // them, stop.
@@ -10,10 +10,14 @@
 //   D-25-1  the check digit's weight 3 is bound to the leftmost digit instead of the rightmost; no
 //           symbol is touched, since no type asks for the check digit
 //   D-25-2  the empty text is accepted and gives start and stop alone
+//
+// ITF-14 is Interleaved 2 of 5 of 14 digits, the last of which is the check digit.
 #ifndef BARHATCH_SYMBOLOGIES_INTERLEAVED2OF5_H
 #define BARHATCH_SYMBOLOGIES_INTERLEAVED2OF5_H
 
+#include "job/Refusal.h"
 #include "symbologies/Encoder.h"
+#include "symbologies/Preparation.h"
 
 namespace barhatch {
 
@@ -22,6 +26,13 @@ namespace barhatch {
 // '0' for the empty text. The device counts from the leftmost digit (D-25-1), which is the same
 // where their number is odd.
 char Interleaved2of5CheckDigit(const Characters& digits, Conformance& how);
+
+// Appends the check digit, or verifies it.
+Refusal PrepareInterleaved2of5(const LinearOptions& options, PreparedText& text, Conformance& how);
+
+// Of 13 digits appends the check digit, of 14 verifies it.
+constexpr std::size_t kItf14Digits = 14;
+Refusal PrepareItf14(const LinearOptions& options, PreparedText& text, Conformance& how);
 
 // The five elements of a digit, '1' wide, '0' narrow; null for any other character.
 const char* Interleaved2of5Elements(char digit);

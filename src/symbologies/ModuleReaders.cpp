@@ -60,7 +60,7 @@ bool ReadCode93(const char* letters, std::size_t length, ReaderSetting /*setting
   return AddCode93Text(reading, reading.valuesCount - 2);
 }
 
-bool ReadMsi(const char* letters, std::size_t length, ReaderSetting /*setting*/,
+bool ReadMsi(const char* letters, std::size_t length, ReaderSetting setting,
              SymbolReading& reading) {
   constexpr std::size_t kStart = sizeof kMsiStart - 1;
   constexpr std::size_t kStop = sizeof kMsiStop - 1;
@@ -72,9 +72,11 @@ bool ReadMsi(const char* letters, std::size_t length, ReaderSetting /*setting*/,
     if (digit == kNoRow) return false;
     AddDigit(reading, digit);
   }
-  if (reading.textLength < 2 || !AreModules(letters + stop, kMsiStop)) return false;
-  const char check = reading.text[--reading.textLength];
-  return check == MsiModulo10Check({reading.text, reading.textLength});
+  const auto checks = static_cast<std::size_t>(MsiCheckDigitsOf(setting.check));
+  if (reading.textLength <= checks || !AreModules(letters + stop, kMsiStop)) return false;
+  if (!HasMsiCheck({reading.text, reading.textLength}, setting.check)) return false;
+  reading.textLength -= checks;
+  return true;
 }
 
 }  // namespace barhatch

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include "job/CharacterClasses.h"
 #include "symbologies/CyclicWeights.h"
 #include "symbologies/LetterTables.h"
 #include "symbologies/PatternRows.h"
@@ -18,7 +19,7 @@ constexpr char kOneBit[] = "110";
 // is below ten.
 int DoubledDigitSum(int digit) { return digit < 5 ? 2 * digit : 2 * digit - 10 + 1; }
 
-constexpr int kDigits = 11;  // a check of 10 as well
+constexpr int kDigits = 10;
 
 constexpr LetterTable<kDigits, kMsiDigitLetters> SpreadBits() {
   LetterTable<kDigits, kMsiDigitLetters> letters{};
@@ -34,6 +35,59 @@ constexpr auto kLetters = SpreadBits();
 
 char* DrawDigit(char* at, char digit) { return CopyLetters(at, kLetters.rows[digit - '0']); }
 
+struct MsiScheme {
+  CheckScheme check;
+  int lastWeight;     // of the first check digit, modulo 11; 0: there is none of modulo 11
+  int modulo10Count;  // check digits of modulo 10 behind it
+};
+
+constexpr MsiScheme kSchemes[] = {
+    {CheckScheme::kOwn, 0, 1},
+    {CheckScheme::kNone, 0, 0},
+    {CheckScheme::kVerify, 0, 1},
+    {CheckScheme::kMsi10, 0, 1},
+    {CheckScheme::kMsi10And10, 0, 2},
+    {CheckScheme::kMsi11, kMsiLastWeight, 0},
+    {CheckScheme::kMsi11And10, kMsiLastWeight, 1},
+    {CheckScheme::kMsiNcr11, kMsiLastWeightOfNcr, 0},
+    {CheckScheme::kMsiNcr11And10, kMsiLastWeightOfNcr, 1},
+};
+
+const MsiScheme& SchemeOf(CheckScheme check) {
+  for (const MsiScheme& scheme : kSchemes) {
+    if (scheme.check == check) return scheme;
+  }
+  return kSchemes[0];
+}
+
+int CheckDigitsOf(const MsiScheme& scheme) {
+  return (scheme.lastWeight != 0 ? 1 : 0) + scheme.modulo10Count;
+}
+
+// Of the digits so far. A check of 10 gives what is no digit.
+char NextCheck(const MsiScheme& scheme, const Characters& digits, bool isFirst) {
+  if (!isFirst || scheme.lastWeight == 0) return MsiModulo10Check(digits);
+  return static_cast<char>('0' + MsiModulo11Check(digits, scheme.lastWeight));
+}
+
+Refusal AppendChecks(const MsiScheme& scheme, PreparedText& text) {
+  const int count = CheckDigitsOf(scheme);
+  for (int i = 0; i < count; ++i) {
+    const char check = NextCheck(scheme, {text.room, text.length}, i == 0);
+    if (!IsDigit(check)) return {Reason::kNoCheck};
+    Insert(text, text.length, check);
+  }
+  text.reading.behind = static_cast<std::uint8_t>(count);
+  return {};
+}
+
+Refusal VerifyCheck(PreparedText& text) {
+  if (text.length < 2) return {Reason::kOnlyCheck};
+  text.reading.behind = 1;
+  const std::size_t last = text.length - 1;
+  return VerifyCharacter(text, last, MsiModulo10Check({text.room, last}));
+}
+
 }  // namespace
 
 char MsiModulo10Check(const Characters& digits) {
@@ -46,10 +100,30 @@ char MsiModulo10Check(const Characters& digits) {
   return static_cast<char>('0' + (10 - sum % 10) % 10);
 }
 
-char MsiModulo11Check(const Characters& digits) {
-  CyclicWeightedSum sum(2, 7);
+int MsiModulo11Check(const Characters& digits, int lastWeight) {
+  CyclicWeightedSum sum(2, lastWeight);
   for (std::size_t i = digits.length; i-- > 0;) sum.Add(digits.text[i] - '0');
-  return static_cast<char>('0' + (11 - sum.Modulo(11)) % 11);
+  return (11 - sum.Modulo(11)) % 11;
+}
+
+int MsiCheckDigitsOf(CheckScheme check) { return CheckDigitsOf(SchemeOf(check)); }
+
+bool HasMsiCheck(const Characters& digits, CheckScheme check) {
+  const MsiScheme& scheme = SchemeOf(check);
+  const std::size_t first = digits.length - static_cast<std::size_t>(CheckDigitsOf(scheme));
+  for (std::size_t at = first; at < digits.length; ++at) {
+    if (digits.text[at] != NextCheck(scheme, {digits.text, at}, at == first)) return false;
+  }
+  return true;
+}
+
+Refusal PrepareMsi(const LinearOptions& options, PreparedText& text, Conformance& how) {
+  const Refusal refusal = CheckCharacters(text, how);
+  if (refusal.IsRefused()) return refusal;
+  text.encode = EncodeMsiDigits;
+  text.isForPeople = true;
+  if (options.check == CheckScheme::kVerify) return VerifyCheck(text);
+  return AppendChecks(SchemeOf(options.check), text);
 }
 
 int MsiDigit(const char* letters) {
@@ -59,8 +133,7 @@ int MsiDigit(const char* letters) {
   return kNoRow;
 }
 
-void EncodeMsi(const Characters& text, int variant, Conformance& /*how*/, SymbolWriter& out) {
-  const bool isModulo11 = static_cast<MsiCheckScheme>(variant) == MsiCheckScheme::kModulo11;
+void EncodeMsi(const Characters& text, int /*variant*/, Conformance& /*how*/, SymbolWriter& out) {
   // Twelve letters for each digit and the check digit, start and stop.
   const std::size_t letters = kMsiDigitLetters * (text.length + 1);
   out.Open(letters + 3 + 4);
@@ -68,7 +141,18 @@ void EncodeMsi(const Characters& text, int variant, Conformance& /*how*/, Symbol
   char* at = out.Room(letters);
   if (at == nullptr) return;
   for (std::size_t i = 0; i < text.length; ++i) at = DrawDigit(at, text.text[i]);
-  DrawDigit(at, isModulo11 ? MsiModulo11Check(text) : MsiModulo10Check(text));
+  DrawDigit(at, MsiModulo10Check(text));
+  out.AppendModules(kMsiStop);
+}
+
+void EncodeMsiDigits(const Characters& text, int /*variant*/, Conformance& /*how*/,
+                     SymbolWriter& out) {
+  const std::size_t letters = kMsiDigitLetters * text.length;
+  out.Open(letters + 3 + 4);
+  out.AppendModules(kMsiStart);
+  char* at = out.Room(letters);
+  if (at == nullptr) return;
+  for (std::size_t i = 0; i < text.length; ++i) at = DrawDigit(at, text.text[i]);
   out.AppendModules(kMsiStop);
 }
 

@@ -2,21 +2,27 @@
 // the most significant first, 0 as 100 and 1 as 110), one check digit and stop 1001. "1234" becomes
 // the digits 1 2 3 4 and the check digit 4: 67 letters.
 //
-// The type that hosts can ask for has the modulo-10 check digit.
+// The device writes the check digit of modulo 10. By the book there are the usual schemes:
+//
+//   kMsi10          4    of 1234567
+//   kMsi10And10     41   the second digit is that of 12345674
+//   kMsi11          4    weights 2 to 7
+//   kMsi11And10     41
+//   kMsiNcr11       9    weights 2 to 9
+//   kMsiNcr11And10  95
+//
+// A check of modulo 11 that is 10 has no digit: the text is refused.
 //
 // Deliberate deviation, kept because hosts depend on it (docs/deviations.md):
 //   D-MSI-1  the empty text is accepted: the symbol holds the check digit 0 alone
 #ifndef BARHATCH_SYMBOLOGIES_MSI_H
 #define BARHATCH_SYMBOLOGIES_MSI_H
 
+#include "job/Refusal.h"
 #include "symbologies/Encoder.h"
+#include "symbologies/Preparation.h"
 
 namespace barhatch {
-
-enum class MsiCheckScheme {
-  kModulo10,
-  kModulo11,
-};
 
 constexpr char kMsiStart[] = "110";
 constexpr char kMsiStop[] = "1001";
@@ -25,17 +31,32 @@ constexpr int kMsiDigitLetters = 12;
 // The digit with these twelve letters, kNoRow for any others.
 int MsiDigit(const char* letters);
 
-// REQUIRES: digits. variant: an MsiCheckScheme.
+// Adds the check digit of modulo 10. REQUIRES: digits. There is one variant.
 void EncodeMsi(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
+
+// Adds nothing. REQUIRES: digits. There is one variant.
+void EncodeMsiDigits(const Characters& text, int variant, Conformance& how, SymbolWriter& out);
+
+// Appends the check digits of a scheme, or verifies that of modulo 10.
+Refusal PrepareMsi(const LinearOptions& options, PreparedText& text, Conformance& how);
+
+// Check digits of a scheme: 0, 1 or 2.
+int MsiCheckDigitsOf(CheckScheme check);
+
+// Whether the last of the digits are the check digits of the others. REQUIRES: digits, more than
+// the scheme has.
+bool HasMsiCheck(const Characters& digits, CheckScheme check);
 
 // The digits at positions 1, 3, 5, ... from the right, read as one number, are doubled; the check
 // digit brings the digits of the product and the remaining digits to a multiple of ten. Exact for
 // any length. REQUIRES: digits only; the empty text gives '0'.
 char MsiModulo10Check(const Characters& digits);
 
-// Weights 2 to 7 from the right, over again from 2. A check of 10 is the character ':', the one
-// after '9', and is written with the bits of 10. REQUIRES: digits only; the empty text gives '0'.
-char MsiModulo11Check(const Characters& digits);
+// 0..10. Weights from 2 to the last one, from the right and over again. REQUIRES: digits only; the
+// empty text gives 0.
+constexpr int kMsiLastWeight = 7;
+constexpr int kMsiLastWeightOfNcr = 9;
+int MsiModulo11Check(const Characters& digits, int lastWeight);
 
 }  // namespace barhatch
 

@@ -15,6 +15,7 @@
 #include "job/Deviations.h"
 #include "job/Job.h"
 #include "job/Refusal.h"
+#include "symbologies/Encoder.h"
 #include "symbologies/SymbolWriter.h"
 #include "symbologies/TextRules.h"
 
@@ -37,6 +38,12 @@ enum class CheckScheme : std::uint8_t {
   kCode11C,
   kCode11CAndK,
 };
+
+// Some of them, one bit each.
+using CheckSchemes = std::uint16_t;
+constexpr CheckSchemes BitOf(CheckScheme check) {
+  return static_cast<CheckSchemes>(1u << static_cast<unsigned>(check));
+}
 
 // What a host may choose beside symbology and text.
 struct LinearOptions {
@@ -61,17 +68,32 @@ struct PreparedText {
   const TextRule* rule;  // of the symbology
   char* room;            // the characters and a NUL; see PreparationRoom
   std::size_t length;
-  int variant;  // of the encoder
-  ReadingForm reading;
-  QuietModules quiet;  // that the standard asks for
+  Encoder encode;
+  int variant;
+  ReadingForm reading;  // of the characters in the room
+  QuietModules quiet;   // that the standard asks for
+  // What the encoder draws where it is something else than the characters; it stands in the room
+  // behind them.
+  Characters drawn = {nullptr, 0};
+  bool isForPeople = false;  // the characters, and not the reading, stand beside the symbol
 };
 
-// Bytes of the room of a text of so many characters.
-constexpr std::size_t PreparationRoom(std::size_t length) { return 2 * length + 16; }
+// Bytes of the room of a text of so many characters: for two more of them, a NUL and twice as many
+// behind it.
+constexpr std::size_t PreparationRoom(std::size_t length) { return 3 * length + 16; }
 
 // The position of a refusal is that of a character of the text as the host gave it. The options are
 // such as the symbology has. REQUIRES: room as above.
 using Prepare = Refusal (*)(const LinearOptions& options, PreparedText& text, Conformance& how);
+
+// The text as its rule takes it.
+Refusal CheckCharacters(PreparedText& text, Conformance& how);
+
+// Puts a character in front of the one at a place, behind all where that is the length.
+void Insert(PreparedText& text, std::size_t at, char character);
+
+// Holds the character at a place to the right one.
+Refusal VerifyCharacter(const PreparedText& text, std::size_t at, char right);
 
 }  // namespace barhatch
 

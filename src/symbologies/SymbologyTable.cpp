@@ -4,6 +4,7 @@
 #include "symbologies/Code11.h"
 #include "symbologies/Code128Policies.h"
 #include "symbologies/Code39.h"
+#include "symbologies/Code39FullAscii.h"
 #include "symbologies/Code93.h"
 #include "symbologies/Ean13UpcA.h"
 #include "symbologies/Ean8.h"
@@ -96,14 +97,35 @@ constexpr ReadingForm WithCheckDigit(EanUpcSymbol symbol) {
   return {0, 0, static_cast<std::uint8_t>(EanUpcLayoutOf(symbol).mainDigits), false};
 }
 
+template <typename... Schemes>
+constexpr CheckSchemes Checks(Schemes... schemes) {
+  return static_cast<CheckSchemes>((BitOf(schemes) | ...));
+}
+constexpr CheckSchemes kOwnCheck = Checks(CheckScheme::kOwn);
+constexpr CheckSchemes kFreeCheck =
+    Checks(CheckScheme::kOwn, CheckScheme::kNone, CheckScheme::kVerify);
+constexpr CheckSchemes kMsiChecks =
+    kFreeCheck | Checks(CheckScheme::kMsi10, CheckScheme::kMsi10And10, CheckScheme::kMsi11,
+                        CheckScheme::kMsi11And10, CheckScheme::kMsiNcr11,
+                        CheckScheme::kMsiNcr11And10);
+constexpr CheckSchemes kCode11Checks =
+    kFreeCheck | Checks(CheckScheme::kCode11C, CheckScheme::kCode11CAndK);
+
 // A row whose characters are as the encoder draws them, with 10 modules of quiet zone.
 constexpr SymbologyRow Row(std::int32_t symbology, const char* name, const char* accepts,
                            const TextRule& text, Encoder encode, Reader read) {
-  return {symbology, {name, accepts, nullptr}, {text, encode, 0, 10, 10}, read, kAsDrawn, nullptr};
+  return {symbology, {name, accepts, nullptr}, {text, encode, 0, 10, 10}, read, kAsDrawn, nullptr,
+          kOwnCheck};
 }
 
 constexpr SymbologyRow Read(SymbologyRow row, ReadingForm reading) {
   row.reading = reading;
+  return row;
+}
+
+constexpr SymbologyRow Prepared(SymbologyRow row, Prepare prepare, CheckSchemes checks) {
+  row.prepare = prepare;
+  row.checks = checks;
   return row;
 }
 
@@ -183,18 +205,20 @@ constexpr TextRule kCode39FullRule = Rule(kClassAscii, 3114, kNoDeviation);
 
 // clang-format off
 constexpr SymbologyRow kRows[] = {
-    Read(Row(0, "Codabar", kCodabarText, kCodabarRule, EncodeCodabar, ReadCodabar), kBetweenTheEnds),
-    Row(1, "Code 39", kCode39Text, kCode39Rule, EncodeCode39, ReadCode39),
+    Prepared(Read(Row(0, "Codabar", kCodabarText, kCodabarRule, EncodeCodabar, ReadCodabar), kBetweenTheEnds),
+             PrepareCodabar, kFreeCheck | Checks(CheckScheme::kModulo16)),
+    Prepared(Row(1, "Code 39", kCode39Text, kCode39Rule, EncodeCode39, ReadCode39),
+             PrepareCode39, kFreeCheck | Checks(CheckScheme::kModulo43)),
     Row(2, "Code 93", kCode39Text, kCode93Rule, EncodeCode93, ReadCode93),
     Ean13(3, "EAN-13", {kEan13Text, "12 digits"}, EanUpcSymbol::kEan13),
-    Row(4, "MSI", "digits", kMsiRule, EncodeMsi, ReadMsi),
+    Prepared(Row(4, "MSI", "digits", kMsiRule, EncodeMsi, ReadMsi), PrepareMsi, kMsiChecks),
     Code128(5, "Code 128", Code128Policy::kAuto),
     Code128(6, "Code 128 from set A", Code128Policy::kFromA),
     Code128(7, "Code 128 set B", Code128Policy::kB),
     Code128(8, "Code 128 from set C", Code128Policy::kFromC),
     UpcA(9, "UPC-A", {kUpcAText, "11 digits"}, EanUpcSymbol::kUpcA),
     UpcE(10, "UPC-E", {kUpcEText, "7 digits: number system and six"}, EanUpcSymbol::kUpcE),
-    Row(11, "Code 11", "digits and -", kCode11Rule, EncodeCode11, ReadCode11),
+    Prepared(Row(11, "Code 11", "digits and -", kCode11Rule, EncodeCode11, ReadCode11), PrepareCode11, kCode11Checks),
     Ean8(12, "EAN-8", {kEan8Text, "7 digits"}, EanUpcSymbol::kEan8),
     UpcA(13, "UPC-A with 2-digit add-on", {kUpcATextAnd2, "13 digits: 11 and 2"}, EanUpcSymbol::kUpcAAddon2),
     UpcA(14, "UPC-A with 5-digit add-on", {kUpcATextAnd5, "16 digits: 11 and 5"}, EanUpcSymbol::kUpcAAddon5),
@@ -204,10 +228,13 @@ constexpr SymbologyRow kRows[] = {
     Ean8(18, "EAN-8 with 5-digit add-on", {kEan8TextAnd5, "12 digits: 7 and 5"}, EanUpcSymbol::kEan8Addon5),
     UpcE(19, "UPC-E with 2-digit add-on", {kUpcETextAnd2, "9 digits: 7 and 2"}, EanUpcSymbol::kUpcEAddon2),
     UpcE(20, "UPC-E with 5-digit add-on", {kUpcETextAnd5, "12 digits: 7 and 5"}, EanUpcSymbol::kUpcEAddon5),
-    Read(Row(21, "Interleaved 2 of 5", "digits", kItfRule, EncodeInterleaved2of5, ReadInterleaved2of5), kInPairs),
+    Prepared(Read(Row(21, "Interleaved 2 of 5", "digits", kItfRule, EncodeInterleaved2of5, ReadInterleaved2of5), kInPairs),
+             PrepareInterleaved2of5, kFreeCheck | Checks(CheckScheme::kInterleaved10)),
     Row(22, "Code 93, full ASCII", kAscii, kCode93FullRule, EncodeCode93, ReadCode93),
-    Read(Row(101, "ITF-14", "13 or 14 digits", kItf14Rule, EncodeInterleaved2of5, ReadInterleaved2of5), kInPairs),
-    Row(102, "Code 39, full ASCII", kAscii, kCode39FullRule, EncodeCode39, ReadCode39),
+    Prepared(Row(101, "ITF-14", "13 or 14 digits", kItf14Rule, EncodeInterleaved2of5, ReadItf14),
+             PrepareItf14, Checks(CheckScheme::kOwn, CheckScheme::kVerify)),
+    Prepared(Row(102, "Code 39, full ASCII", kAscii, kCode39FullRule, EncodeCode39, ReadCode39FullAscii),
+             PrepareCode39FullAscii, kFreeCheck | Checks(CheckScheme::kModulo43)),
 };
 // clang-format on
 constexpr int kRowCount = sizeof kRows / sizeof *kRows;

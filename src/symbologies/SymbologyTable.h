@@ -35,6 +35,7 @@ struct SymbologyRow {
   Reader read;
   ReadingForm reading;  // of the text as it is drawn where nothing prepares it
   Prepare prepare;      // of texts by the book; null: they are drawn as they stand
+  CheckSchemes checks;  // that a mark by the book may ask for
 };
 
 // In the order of their numbers.
