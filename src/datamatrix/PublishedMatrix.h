@@ -33,8 +33,8 @@ enum class MatrixHead : std::uint8_t {
 
 // One of several symbols that together are a message.
 struct StructuredAppend {
-  int part = 0;                    // 1..parts
-  int parts = 0;                   // 2..16
+  int part = 0;                     // 1..parts
+  int parts = 0;                    // 2..16
   std::int32_t identification = 0;  // 0..kLastIdentification, the same in all of them
 };
 constexpr int kMostParts = 16;

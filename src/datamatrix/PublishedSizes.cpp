@@ -124,6 +124,10 @@ const SymbolSize* GrownSize(int codewords, int rows, int columns) {
   return SmallestCovering(TablesOf(*asked), codewords, rows, columns);
 }
 
+const SymbolSize* NextPublishedSize(int rows, int columns) {
+  return SmallestCovering(rows == columns ? kSquares : kRectangles | kDmre, 0, rows, columns);
+}
+
 const SymbolSize* SmallestOf(Shape shape, int codewords) {
   return SmallestCovering(TablesOf(shape), codewords, 0, 0);
 }

@@ -24,7 +24,7 @@ enum class Shape : std::uint8_t {
 };
 
 struct SizeWish {
-  int rows;     // both 0 for no size in particular
+  int rows;  // both 0 for no size in particular
   int columns;
   Shape shape;   // without a size in particular
   bool mayGrow;  // beyond rows x columns, within the table that these are a row of
@@ -48,6 +48,9 @@ Refusal ChoosePublishedSize(int codewords, const SizeWish& wish, SymbolSize& cho
 
 // The size that rows x columns would grow to; null where there is none.
 const SymbolSize* GrownSize(int codewords, int rows, int columns);
+
+// The smallest size, square for a square, that covers rows x columns; null for none.
+const SymbolSize* NextPublishedSize(int rows, int columns);
 
 // The smallest size of a shape for so many codewords, and the one that holds most.
 const SymbolSize* SmallestOf(Shape shape, int codewords);

@@ -83,8 +83,8 @@ void ShortestPass::ReachAscii(std::size_t place, Costs& after) {
   best_ = kNever;
   Consider(places_[place - 1].ascii + static_cast<Cost>(AsciiCodewordsOf(token)) * kCodeword,
            kFromToken);
-  const bool isPair = place >= lead_ + 2 && IsDigitToken(token) &&
-                      IsDigitToken(text_.tokens[place - 2]);
+  const bool isPair =
+      place >= lead_ + 2 && IsDigitToken(token) && IsDigitToken(text_.tokens[place - 2]);
   if (isPair) Consider(places_[place - 2].ascii + kCodeword, kFromPair);
   for (const Unlatch& unlatch : kUnlatches) {
     Consider(after.of[unlatch.state] + unlatch.codewords * kCodeword + kChange,
@@ -112,8 +112,7 @@ void ShortestPass::ConsiderRuns(std::size_t place) {
     return;
   }
   const std::size_t newest = place - 1;
-  while (queueBack_ > queueFront_ &&
-         Balance(places_[queueBack_ - 1].note) > Balance(newest)) {
+  while (queueBack_ > queueFront_ && Balance(places_[queueBack_ - 1].note) > Balance(newest)) {
     --queueBack_;
   }
   places_[queueBack_++].note = static_cast<std::uint16_t>(newest);
@@ -128,7 +127,8 @@ void ShortestPass::ConsiderRuns(std::size_t place) {
     longBegin_ = leaving;
     longCost_ = places_[leaving].ascii;
   }
-  Consider(RunCost(longBegin_, place, 3, longCost_), kFromRun + static_cast<int>(place - longBegin_));
+  Consider(RunCost(longBegin_, place, 3, longCost_),
+           kFromRun + static_cast<int>(place - longBegin_));
 }
 
 void ShortestPass::Enter(std::size_t place, Costs& after) {

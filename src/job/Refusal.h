@@ -27,9 +27,9 @@ enum class Reason : std::uint8_t {
   kGeometry,            // sizes that make no sense
   kNothingToMark,
   kTooManyStrokes,  // more than a fill may have
-  kFnc1Place,           // position: of an FNC1 that would be taken for one in second position
-  kMaskEscape,          // position: of a backslash of a mask with nothing behind it to mean
-  kNoSuchByte,          // position: of a character that the ECI asked for has no byte for
+  kFnc1Place,       // position: of an FNC1 that would be taken for one in second position
+  kMaskEscape,      // position: of a backslash of a mask with nothing behind it to mean
+  kNoSuchByte,      // position: of a character that the ECI asked for has no byte for
   kNoMemory,
 };
 

@@ -39,7 +39,9 @@ std::uint16_t UnitAt(const void* text, std::size_t index) {
 }  // namespace
 
 InputText::InputText(const BarhatchJob& job)
-    : text_(job.text), length_(job.length), input_(job.input) {
+    : text_(job.text),
+      length_(job.length),
+      input_(job.input == BARHATCH_CODEWORDS ? BARHATCH_BYTES : job.input) {
   if (text_ == nullptr || length_ != 0) return;
   if (input_ == BARHATCH_UNITS) {
     while (UnitAt(text_, length_) != 0) ++length_;

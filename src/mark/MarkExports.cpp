@@ -119,7 +119,7 @@ std::int32_t MarkJob(const BarhatchJob* record, BarhatchResult& result) {
     KeepRefusal(result);
     SayRefusal(job, refusal, result.position, Message(result.message));
   } else {
-    SayWarning(result.warnings, Message(result.message));
+    SayWarning(job, result.warnings, Message(result.message));
   }
   return StatusOf(refusal.reason);
 }

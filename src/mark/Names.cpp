@@ -35,7 +35,8 @@ constexpr SymbologyName kNames[] = {
     {BARHATCH_UPC_E_ADDON_5, "UPC-E with 5-digit add-on", "12 digits: 7 and 5", nullptr},
     {BARHATCH_INTERLEAVED_2_OF_5, "Interleaved 2 of 5", "digits", nullptr},
     {BARHATCH_CODE_93_FULL, "Code 93, full ASCII", "characters from 0 to 127", nullptr},
-    {BARHATCH_DATA_MATRIX, "Data Matrix", "bytes; characters above 255 designate an ECI", nullptr},
+    {BARHATCH_DATA_MATRIX, "Data Matrix", "all characters, and bytes",
+     "bytes; characters above 255 designate an ECI"},
     {BARHATCH_ITF_14, "ITF-14", "13 or 14 digits", nullptr},
     {BARHATCH_CODE_39_FULL, "Code 39, full ASCII", "characters from 0 to 127", nullptr},
 };

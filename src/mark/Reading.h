@@ -5,7 +5,9 @@
 #include <cstddef>
 #include <cstdint>
 
+#include "datamatrix/PublishedMatrix.h"
 #include "job/Job.h"
+#include "job/Token.h"
 
 namespace barhatch {
 
@@ -16,6 +18,10 @@ bool IsReadingOfLinear(std::int32_t symbology, const Characters& text, const Cha
 // Readers leave out ECI designators, write out the macro headers and report FNC1 in second position
 // as GS or not at all.
 bool IsReadingOfMatrix(const TextUnits& text, Header header, const Characters& reading);
+
+// The same for a Data Matrix by the book: FNC1 in first or second position is no byte, behind that
+// it is GS.
+bool IsReadingOfTokens(const TokenText& text, MatrixHead head, const Characters& reading);
 
 }  // namespace barhatch
 
