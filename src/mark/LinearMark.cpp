@@ -5,6 +5,7 @@
 #include "mark/Mark.h"
 #include "mark/MarkedSymbol.h"
 #include "mark/Reading.h"
+#include "mark/TextTokens.h"
 #include "symbologies/SymbologyReaders.h"
 #include "symbologies/SymbologyTable.h"
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr std::size_t kFewestDigitsOfItf = 6;
 constexpr char kGs = '\x1D';
+constexpr std::size_t kMostGs1Tokens = 1 + kMostGs1Characters;  // behind the first FNC1
 
 // What stands for a character that no byte is, until the check of the text refuses it: outside of
 // Code 128 no symbology takes it.
@@ -193,11 +195,13 @@ Refusal MakeLinearSymbol(const BarhatchJob& job, const InputText& text, std::siz
                          Conformance& how, MarkedSymbol& symbol) {
   if (count > kLongestLinearText) return {Reason::kLength, -1, FigureOf(count)};
   if (job.conformance == BARHATCH_DEVICE) return MakeAsTheDevice(job, text, count, how, symbol);
-  const Block<Token> tokens(symbol.memory, count + 1);
-  if (tokens.get() == nullptr) return {Reason::kNoMemory};
-  text.CopyTokens(tokens.get(), count);
-  const TokenText given = {tokens.get(), count};
-  return AsGiven(MakeOfTokens(job, given, how, symbol), given);
+  TextTokens tokens(symbol.memory);
+  const Refusal refusal = tokens.Read(job, text, count, symbol);
+  if (refusal.IsRefused()) return refusal;
+  if (job.input == BARHATCH_GS1 && tokens.Get().length > kMostGs1Tokens) {
+    return {Reason::kTooManyElements, -1, FigureOf(tokens.Get().length - 1)};
+  }
+  return AsGiven(MakeOfTokens(job, tokens.Get(), how, symbol), tokens.Get());
 }
 
 }  // namespace barhatch

@@ -81,6 +81,14 @@ std::size_t ExtentOf(const Refusal& refusal, const InputText& text, const TextPl
   }
 }
 
+// From the first token to the last; none at the end of the text.
+std::size_t ExtentOfTokens(const Refusal& refusal, const InputText& text, const TextPlace& place) {
+  if (refusal.extent == 0) return 0;
+  const std::int32_t last = refusal.position + refusal.extent - 1;
+  const TextPlace end = text.PlaceOf(static_cast<std::size_t>(last));
+  return end.begin + end.extent - place.begin;
+}
+
 Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result) {
   if (refusal.position < 0) return refusal;
   TextPlace place = text.PlaceOf(static_cast<std::size_t>(refusal.position));
@@ -88,6 +96,7 @@ Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result
     refusal.figure = static_cast<std::int32_t>(text.TokenAt(place));
   }
   place.extent = ExtentOf(refusal, text, place);
+  if (refusal.extent != 1) place.extent = ExtentOfTokens(refusal, text, place);
   SetPlace(place, result);
   return refusal;
 }
@@ -140,7 +149,7 @@ std::int32_t MarkJob(const BarhatchJob* record, BarhatchResult& result) {
     KeepRefusal(result);
     SayRefusal(job, refusal, result.position, Message(result.message));
   } else {
-    SayWarning(result.warnings, Message(result.message));
+    SayWarning(job, result.warnings, Message(result.message));
   }
   return StatusOf(refusal.reason);
 }
