@@ -91,10 +91,9 @@ bool IsPattern(std::int32_t pattern) {
   return pattern >= BARHATCH_SCAN_LINES && pattern <= BARHATCH_POINTS && pattern != 4;
 }
 
-bool IsInput(const BarhatchJob& job) {
-  const std::int32_t input = job.input;
-  if (input == BARHATCH_CODEWORDS) return IsMatrix(job) && job.conformance == BARHATCH_PUBLISHED;
-  return input == BARHATCH_UTF8 || input == BARHATCH_BYTES || input == BARHATCH_UNITS;
+bool IsInput(std::int32_t input) {
+  return input == BARHATCH_UTF8 || input == BARHATCH_BYTES || input == BARHATCH_UNITS ||
+         input == BARHATCH_CODEWORDS;
 }
 
 std::int32_t Refuse(std::int32_t status, const char* sentence, Message& message) {
@@ -218,6 +217,9 @@ std::int32_t CheckLinearOptions(const BarhatchJob& job, Message& message) {
   const bool isOfMatrix =
       job.rows != 0 || job.columns != 0 || job.envelope != 0 || (job.flags & kMatrixFlags) != 0;
   if (!isOfMatrix) return BARHATCH_OK;
+  if ((job.flags & kMatrixFlags & ~kDeviceMatrixFlags) != 0) {
+    return Refuse(BARHATCH_BAD_OPTION, "a flag is set that is for Data Matrix alone", message);
+  }
   return Refuse(BARHATCH_BAD_OPTION,
                 "rows, columns, envelope, FNC1_SECOND and MAY_GROW are for Data Matrix", message);
 }
@@ -225,6 +227,9 @@ std::int32_t CheckLinearOptions(const BarhatchJob& job, Message& message) {
 // What is for a Data Matrix by the book alone.
 std::int32_t CheckForeign(const BarhatchJob& job, Message& message) {
   if (IsMatrix(job) && job.conformance == BARHATCH_PUBLISHED) return BARHATCH_OK;
+  if (job.input == BARHATCH_CODEWORDS) {
+    return Refuse(BARHATCH_BAD_OPTION, "CODEWORDS are for Data Matrix by the book", message);
+  }
   for (const ComingField<std::int32_t>& field : kPublishedMatrixIntegers) {
     if (job.*field.field == 0) continue;
     message << field.name << " is for Data Matrix by the book: it must be 0";
@@ -234,8 +239,8 @@ std::int32_t CheckForeign(const BarhatchJob& job, Message& message) {
 }
 
 std::int32_t CheckChoices(const BarhatchJob& job, Message& message) {
-  if (!IsInput(job)) {
-    return RefuseNumber("input", job.input, " is not in this version: 0, 1 and 4", message);
+  if (!IsInput(job.input)) {
+    return RefuseNumber("input", job.input, " is not in this version: 0, 1, 4 and 5", message);
   }
   if ((job.flags & ~kFlags) != 0) {
     return Refuse(BARHATCH_BAD_OPTION, "a flag is set that this version does not have", message);
