@@ -77,10 +77,10 @@ enum class Check : std::int32_t {
 
 // Which sizes a Data Matrix is chosen from.
 enum class Shape : std::int32_t {
-  kSquare = BARHATCH_SQUARE,        // the smallest square
-  kRectangle = BARHATCH_RECTANGLE,  // the rectangle of the smallest area
-  kAnyShape = BARHATCH_ANY_SHAPE,   // the smallest area
-  kDmre = BARHATCH_DMRE,            // likewise, with ISO/IEC 21471
+  kSquare = BARHATCH_SQUARE,                // the smallest square
+  kRectangle = BARHATCH_RECTANGLE,          // the rectangle of the smallest area
+  kAnyShape = BARHATCH_ANY_SHAPE,           // the smallest area
+  kDmre = BARHATCH_DMRE,                    // likewise, with ISO/IEC 21471
   kDmreRectangle = BARHATCH_DMRE_RECTANGLE  // rectangles alone, with ISO/IEC 21471
 };
 

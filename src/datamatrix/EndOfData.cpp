@@ -12,12 +12,6 @@ constexpr int kAnyCapacity = 0x7FFF;
 constexpr std::size_t kMostEdifactRest = 4;  // tokens: two pairs of digits
 constexpr int kMostEdifactRestCodewords = 2;
 
-CharacterSet SetOf(Scheme scheme) {
-  return scheme == Scheme::kC40    ? CharacterSet::kC40
-         : scheme == Scheme::kText ? CharacterSet::kText
-                                   : CharacterSet::kX12;
-}
-
 }  // namespace
 
 EndsOfData::EndsOfData(const TokenText& text, std::size_t lead, const ShortestPass& pass,
@@ -39,23 +33,16 @@ void EndsOfData::Add(State state, std::size_t position, Cost cost, int spare) {
                      static_cast<std::uint16_t>(position), state};
 }
 
-bool EndsOfData::IsOneValue(Scheme scheme) const {
-  return TripleValuesOf(SetOf(scheme), text_.tokens[text_.length - 1]) == 1;
-}
-
 void EndsOfData::AddTripleEnds(Scheme scheme, bool isLoose) {
   const State entry = EntryOf(scheme);
   const std::size_t end = text_.length;
   Add(entry, end, pass_.At(end).of[entry], 0);
-  if (scheme != Scheme::kX12) {
-    Add(static_cast<State>(entry + 2), end, pass_.At(end).of[entry + 2] + 2 * kCodeword, 0);
-  }
-  if (HasPlaces(1) && (isLoose || IsOneValue(scheme))) AddRest(entry, end - 1);
-  if (HasPlaces(2) && isLoose) AddRest(entry, end - 2);
+  if (isLoose && HasPlaces(1)) AddLooseEnd(entry, end - 1);
+  if (isLoose && HasPlaces(2)) AddLooseEnd(entry, end - 2);
 }
 
 // The tokens behind the position, if they are one codeword of text.
-void EndsOfData::AddRest(State state, std::size_t position) {
+void EndsOfData::AddLooseEnd(State state, std::size_t position) {
   const Token first = text_.tokens[position];
   const bool isOne = position + 1 == text_.length
                          ? IsByteToken(first) && AsciiCodewordsOf(first) == 1

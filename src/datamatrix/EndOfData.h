@@ -1,21 +1,26 @@
 // How a text may end in a Data Matrix (ISO/IEC 16022), by the capacity of the symbol in codewords;
-// w is what the state costs (ShortestPass.h), header included:
+// w is what the state costs (ShortestPass.h), header included, and nothing waits in it:
 //
-//   end         state               capacity      writes behind the state
-//   ASCII       ASCII               w and more    pads
-//   (a)         C40 Text X12, none  w             nothing: the symbol is full
-//               waits
-//   (b)         C40 Text, two wait  w + 2         the two and a pad value of 0
-//   (d)         C40 Text X12, none  w + 1         the last character in ASCII, without an unlatch
-//               waits
-//   EDIFACT     none waits          w + a to      the last a codewords, 0 to 2, in ASCII, without
-//                                   w + 2         an unlatch
-//   Base 256    a run of n bytes,   w + 2 + n     the length 0, which reaches to the end
-//               250 and more
+//   end         state           capacity          writes behind the state
+//   ASCII       ASCII           w and more        pads
+//   (a)         C40 Text X12    w                 nothing: the symbol is full
+//   EDIFACT     EDIFACT         w + a to w + 2    the last a codewords, 0 to 2, in ASCII, without
+//   an
+//                                                 unlatch
+//   Base 256    a run of n      w + 2 + n         the length 0, which reaches to the end
+//               bytes, n > 249
+//   loose (d)   C40 Text X12    w + 1             one codeword of ASCII, without an unlatch
 //
-// (c) of the standard, an unlatch and ASCII, is the end in ASCII. For (d) the standard asks for a
-// character of one value; readers take whatever one codeword of ASCII holds, and so does a loose
-// end: a character that would be shifted, a pair of digits.
+// Two ends of the standard are not here, as they save nothing: (b), two values and a pad value, and
+// (d) where it leaves one character of one value to ASCII. The same number of codewords comes of
+// moving characters at the front of the stretch, which waste as much, into the ASCII before it:
+// then the last triple is whole and the end is (a). Of characters of 1, 2, 3 and 4 values ASCII
+// takes 1, 1, 2 and 2 codewords, triples two thirds of a codeword a value; so the shortest front
+// that leaves whole triples costs one third more than in triples for (d), two thirds for (b): the
+// pad. (c) is the end in ASCII.
+//
+// What readers take beyond the standard is the loose end: a last codeword, without an unlatch, of a
+// character that would be shifted, or of two digits. That saves one.
 //
 // What has an end in one capacity has one in every larger one, as an unlatch costs one codeword
 // more than none. So the fewest codewords decide the size, and the size decides the end.
@@ -51,18 +56,17 @@ class EndsOfData {
  private:
   void AddTripleEnds(Scheme scheme, bool isLoose);
   void AddEdifactEnds();
-  void AddRest(State state, std::size_t position);
+  void AddLooseEnd(State state, std::size_t position);
   void Add(State state, std::size_t position, Cost cost, int spare);
 
-  bool IsOneValue(Scheme scheme) const;
   bool HasPlaces(std::size_t tokens) const { return text_.length >= lead_ + tokens; }
 
   const TokenText& text_;
   const std::size_t lead_;
   const ShortestPass& pass_;
 
-  // ASCII 1; C40 and Text (a), (b) and two of (d); X12 without (b); EDIFACT 5; Base 256 1.
-  static constexpr int kMostEnds = 1 + 4 + 4 + 3 + 5 + 1;
+  // ASCII; of C40, Text and X12 (a) and two that are loose; EDIFACT; Base 256.
+  static constexpr int kMostEnds = 1 + 3 * 3 + 5 + 1;
   End ends_[kMostEnds];
   int count_ = 0;
 };

@@ -72,8 +72,6 @@ class Triples {
     waiting_ = 0;
   }
 
-  int Waiting() const { return waiting_; }
-
  private:
   CodewordBuffer& codewords_;
   int packed_ = 0;
@@ -87,8 +85,7 @@ void WriteTriples(const TokenText& text, std::size_t begin, std::size_t end, Cha
     const CharacterValues values = ValuesOfToken(set, text.tokens[i]);
     for (int k = 0; k < values.count; ++k) triples.Put(values.values[k]);
   }
-  if (leaving == Leaving::kUnlatch) return codewords.Append(kTripleUnlatch);
-  if (triples.Waiting() > 0) triples.Put(kPadValue);
+  if (leaving == Leaving::kUnlatch) codewords.Append(kTripleUnlatch);
 }
 
 // Packs values of six bits, most significant first.

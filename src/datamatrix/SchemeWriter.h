@@ -13,11 +13,12 @@ namespace barhatch {
 // How a stretch ends.
 enum class Leaving : std::uint8_t {
   kUnlatch,  // back to ASCII
-  kNone,     // the end of the symbol implies it; a pad value where two values are left
+  kNone,     // the end of the symbol implies it
 };
 
 // Writes the tokens from `begin` to `end` in one scheme, with its latch. REQUIRES: the scheme has
-// them all, and its groups of values are whole where it is left by an unlatch.
+// them all; the triples of C40, Text and X12 are whole, and the groups of EDIFACT where there is no
+// unlatch.
 void WriteStretch(const TokenText& text, std::size_t begin, std::size_t end, Scheme scheme,
                   Leaving leaving, CodewordBuffer& codewords);
 

@@ -94,10 +94,8 @@ bool IsPattern(std::int32_t pattern) {
   return pattern >= BARHATCH_SCAN_LINES && pattern <= BARHATCH_POINTS && pattern != 4;
 }
 
-bool IsInput(const BarhatchJob& job) {
-  const std::int32_t input = job.input;
-  if (input == BARHATCH_CODEWORDS) return IsMatrix(job) && job.conformance == BARHATCH_PUBLISHED;
-  return input >= BARHATCH_UTF8 && input <= BARHATCH_UNITS;
+bool IsInput(std::int32_t input) {
+  return input >= BARHATCH_UTF8 && input <= BARHATCH_CODEWORDS;
 }
 
 std::int32_t Refuse(std::int32_t status, const char* sentence, Message& message) {
@@ -238,6 +236,9 @@ std::int32_t CheckLinearOptions(const BarhatchJob& job, Message& message) {
   const bool isOfMatrix =
       job.rows != 0 || job.columns != 0 || job.envelope != 0 || (job.flags & kMatrixFlags) != 0;
   if (!isOfMatrix) return BARHATCH_OK;
+  if ((job.flags & kMatrixFlags & ~kDeviceMatrixFlags) != 0) {
+    return Refuse(BARHATCH_BAD_OPTION, "a flag is set that is for Data Matrix alone", message);
+  }
   return Refuse(BARHATCH_BAD_OPTION,
                 "rows, columns, envelope, FNC1_SECOND and MAY_GROW are for Data Matrix", message);
 }
@@ -273,6 +274,9 @@ std::int32_t CheckSchemeOf(const BarhatchJob& job, Message& message) {
 // What is for a Data Matrix by the book alone.
 std::int32_t CheckForeign(const BarhatchJob& job, Message& message) {
   if (IsMatrix(job) && job.conformance == BARHATCH_PUBLISHED) return BARHATCH_OK;
+  if (job.input == BARHATCH_CODEWORDS) {
+    return Refuse(BARHATCH_BAD_OPTION, "CODEWORDS are for Data Matrix by the book", message);
+  }
   for (const ComingField<std::int32_t>& field : kPublishedMatrixIntegers) {
     if (job.*field.field == 0) continue;
     message << field.name << " is for Data Matrix by the book: it must be 0";
@@ -297,9 +301,8 @@ std::int32_t CheckElements(const BarhatchJob& job, Message& message) {
 }
 
 std::int32_t CheckChoices(const BarhatchJob& job, Message& message) {
-  if (!IsInput(job)) {
-    return RefuseNumber("input", job.input, " is none: 0 to 4, and 5 for Data Matrix by the book",
-                        message);
+  if (!IsInput(job.input)) {
+    return RefuseNumber("input", job.input, " is none: 0 to 5", message);
   }
   if ((job.flags & ~kFlags) != 0) {
     return Refuse(BARHATCH_BAD_OPTION, "a flag is set that this version does not have", message);
