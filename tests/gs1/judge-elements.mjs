@@ -143,7 +143,7 @@ const nextIn = (alphabet, character) => alphabet[(alphabet.indexOf(character) + 
 const WRONG_BY_CHECK = {
   csum: (value) => value.slice(0, -1) + nextIn(DIGITS, value.at(-1)),
   csumalpha: (value) => value.slice(0, -1) + nextIn("23456789ABCDEFGHJKLMNPQRSTUVWXYZ", value.at(-1)),
-  hasnondigit: () => "1234567890" + checkPair("1234567890"),
+  hasnondigit: () => oneOf(["100096", "100198", "101099"]),
   yymmdd: () => oneOf(["261301", "260001", "260230", "260431", "260100", "250229", "240230"]),
   yymmd0: () => oneOf(["261301", "260001", "260230", "260431", "260132", "250229", "260000"]),
   yyyymmdd: () => oneOf(["20261301", "20260001", "20260230", "19000229", "20250229", "20260100"]),
