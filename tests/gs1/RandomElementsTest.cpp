@@ -36,16 +36,16 @@ struct CountedBlocks {
   }
 };
 
-Refusal ParseIn(CountedBlocks& blocks, const std::string& text, bool releases) {
+// kept: the blocks that the element string is left with.
+Refusal ParseIn(CountedBlocks& blocks, const std::string& text, int& kept) {
   const std::vector<Token> given = TokensOf(text);
   const Memory memory = blocks.Functions();
   ElementString found;
   const Refusal refusal = ParseElements({given.data(), given.size()}, {}, memory, found);
   EXPECT_EQ(found.tokens == nullptr, refusal.IsRefused());
-  if (releases) {
-    memory.Release(found.tokens);
-    memory.Release(found.text);
-  }
+  kept = blocks.live;
+  memory.Release(found.tokens);
+  memory.Release(found.text);
   return refusal;
 }
 
@@ -137,15 +137,18 @@ TEST(RandomElements, TakeNoMemoryWhenTheyAreRefused) {
   for (int i = 0; i < 2000; ++i) {
     CountedBlocks blocks;
     const std::string text = texts.Next();
-    const bool isRefused = ParseIn(blocks, text, false).IsRefused();
-    ASSERT_EQ(blocks.live, isRefused ? 0 : 2) << text;
+    int kept = 0;
+    const bool isRefused = ParseIn(blocks, text, kept).IsRefused();
+    ASSERT_EQ(kept, isRefused ? 0 : 2) << text;
+    ASSERT_EQ(blocks.live, 0) << text;
   }
 }
 
 TEST(RandomElements, AreRefusedWithoutMemory) {
   for (int failAt = 1; failAt <= 4; ++failAt) {
     CountedBlocks blocks = {failAt};
-    const Refusal refusal = ParseIn(blocks, "(01)09501101530003(10)ABC", true);
+    int kept = 0;
+    const Refusal refusal = ParseIn(blocks, "(01)09501101530003(10)ABC", kept);
     EXPECT_EQ(refusal.reason, failAt <= 3 ? Reason::kNoMemory : Reason::kNone) << failAt;
     EXPECT_EQ(blocks.live, 0) << failAt;
   }
