@@ -59,44 +59,20 @@ bool LosesElements(const BarhatchJob& job, const MarkedSymbol& symbol) {
   return RatioOf(job) <= 1.0 && HasWideElements(symbol);
 }
 
-// Digits that are refused together; any other character alone.
-constexpr std::size_t kUpcEDigits = 6;
-constexpr std::size_t kUpcADigits = 11;
-
-// An add-on reaches to the end of the text. All that is refused together is ASCII.
-std::size_t ExtentOf(const Refusal& refusal, const InputText& text, const TextPlace& place) {
-  const std::size_t rest = text.Length() - place.begin;
-  const bool isNumberSystem = refusal.position == 0;
-  switch (refusal.reason) {
-    case Reason::kUpcEForm:
-      return kUpcEDigits;
-    case Reason::kNoUpcE:
-      return kUpcADigits;
-    case Reason::kAddonDigits:
-      return rest;
-    case Reason::kNotStandard:
-      return isNumberSystem ? place.extent : rest;
-    default:
-      return place.extent;
-  }
-}
-
-// From the first token to the last; none at the end of the text.
-std::size_t ExtentOfTokens(const Refusal& refusal, const InputText& text, const TextPlace& place) {
-  if (refusal.extent == 0) return 0;
-  const std::int32_t last = refusal.position + refusal.extent - 1;
-  const TextPlace end = text.PlaceOf(static_cast<std::size_t>(last));
-  return end.begin + end.extent - place.begin;
+TextPlace PlaceOf(const InputText& text, const Refusal& refusal) {
+  const auto position = static_cast<std::size_t>(refusal.position);
+  const TextPlace first = text.PlaceOf(position);
+  if (refusal.extent == 0) return {first.begin, 0};
+  const TextPlace last = text.PlaceOf(position + static_cast<std::size_t>(refusal.extent) - 1);
+  return {first.begin, last.begin + last.extent - first.begin};
 }
 
 Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result) {
   if (refusal.position < 0) return refusal;
-  TextPlace place = text.PlaceOf(static_cast<std::size_t>(refusal.position));
+  const TextPlace place = PlaceOf(text, refusal);
   if (refusal.reason == Reason::kCharacter || refusal.reason == Reason::kFunction) {
     refusal.figure = static_cast<std::int32_t>(text.TokenAt(place));
   }
-  place.extent = ExtentOf(refusal, text, place);
-  if (refusal.extent != 1) place.extent = ExtentOfTokens(refusal, text, place);
   SetPlace(place, result);
   return refusal;
 }
