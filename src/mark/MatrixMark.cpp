@@ -5,6 +5,7 @@
 #include "mark/JobRecord.h"
 #include "mark/Mark.h"
 #include "mark/MarkedSymbol.h"
+#include "mark/Proof.h"
 #include "mark/Reading.h"
 
 namespace barhatch {
@@ -34,29 +35,33 @@ Refusal CheckUnits(const TextUnits& text, std::uint32_t& warnings) {
   return {};
 }
 
-bool CopyCodewords(const MatrixSymbol& matrix, MarkedSymbol& symbol) {
+// What a reader finds in the grid, or would find without the proof that it does.
+Refusal TakeCodewords(const BarhatchJob& job, const MatrixSymbol& matrix, const Conformance& how,
+                      MarkedSymbol& symbol) {
   const int count = matrix.size.dataCodewords + matrix.size.errorCodewords;
   symbol.valuesCount = static_cast<std::size_t>(count);
   symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(symbol.valuesCount));
-  if (symbol.values == nullptr) return false;
+  if (symbol.values == nullptr) return {Reason::kNoMemory};
+  if (WantsProof(job)) {
+    return {ShowsItsCodewords(matrix, how, symbol) ? Reason::kNone : Reason::kProof};
+  }
   std::memcpy(symbol.values, matrix.codewords.data(), symbol.valuesCount);
-  return true;
+  return {};
 }
 
-Refusal ReadBack(const MatrixSymbol& matrix, const TextUnits& text, Header header,
-                 MarkedSymbol& symbol) {
+Refusal ReadBack(const BarhatchJob& job, const MatrixSymbol& matrix, const MatrixJob& asked,
+                 const Conformance& how, MarkedSymbol& symbol) {
+  const Refusal refusal = TakeCodewords(job, matrix, how, symbol);
+  if (refusal.IsRefused()) return refusal;
   const std::size_t room = MostBytesRead(matrix.size.dataCodewords) + 1;
   symbol.reading = static_cast<char*>(symbol.memory.Allocate(room));
-  if (symbol.reading == nullptr || !CopyCodewords(matrix, symbol)) {
-    return {Reason::kNoMemory, -1, 0};
-  }
+  if (symbol.reading == nullptr) return {Reason::kNoMemory};
   symbol.isRead = ReadCodewords(symbol.values, matrix.size.dataCodewords, symbol.reading, room - 1,
                                 symbol.readingLength);
   symbol.reading[symbol.readingLength] = '\0';
-  const bool isAsGiven =
-      symbol.isRead && IsReadingOfMatrix(text, header, {symbol.reading, symbol.readingLength});
-  if (!isAsGiven) symbol.warnings |= BARHATCH_W_UNREADABLE;
-  return {};
+  const bool isAsGiven = symbol.isRead && IsReadingOfMatrix(asked.text, asked.header,
+                                                            {symbol.reading, symbol.readingLength});
+  return JudgeReading(job, isAsGiven, how.Met(), symbol.warnings);
 }
 
 }  // namespace
@@ -86,7 +91,7 @@ Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::siz
   }
   result.codewords = matrix.codewords.Count();
   result.capacity = matrix.size.dataCodewords;
-  return ReadBack(matrix, content, drawing.header, symbol);
+  return ReadBack(job, matrix, drawing, how, symbol);
 }
 
 }  // namespace barhatch
