@@ -36,6 +36,24 @@ constexpr std::uint64_t ProductOfFactors(int first, int count) {
 static_assert(ProductOfFactors(1, 5) == 0x3E6F0F30E4000000, "62 111 15 48 228");
 static_assert(ProductOfFactors(1, 7) == 0xFE5CF08690441700, "254 92 240 134 144 68 23");
 
+constexpr int kMostRoots = 68;
+
+// Of every eight roots from 2^1 on, and of the first ones of them.
+struct Products {
+  std::uint64_t of[(kMostRoots + 7) / 8][8];
+};
+
+constexpr Products MakeProducts() {
+  Products products{};
+  int first = 1;
+  for (auto& row : products.of) {
+    for (int count = 1; count <= 8; ++count) row[count - 1] = ProductOfFactors(first, count);
+    first += 8;
+  }
+  return products;
+}
+constexpr Products kProducts = MakeProducts();
+
 void Tabulate(std::uint64_t lowest, std::uint64_t (&multiples)[16]) {
   multiples[0] = 0;
   for (int bit = 1; bit < 16; bit *= 2, lowest = Doubled(lowest)) {
@@ -45,8 +63,8 @@ void Tabulate(std::uint64_t lowest, std::uint64_t (&multiples)[16]) {
 
 }  // namespace
 
-RootCheck::RootCheck(int first, int count) {
-  const std::uint64_t product = ProductOfFactors(first, count);
+RootCheck::RootCheck(int eight, int count) {
+  const std::uint64_t product = kProducts.of[eight][count - 1];
   Tabulate(product, low_);
   Tabulate(Product(product, 16), high_);
 }

@@ -22,8 +22,9 @@ struct InterleavedBlock {
 
 class RootCheck {
  public:
-  // The roots 2^first to 2^(first + count - 1), 1 to 8 of them.
-  RootCheck(int first, int count);
+  // The first 1 to 8 of eight roots: 2^1 to 2^8 are the eight 0, 2^65 to 2^72 the eight 8, the
+  // last.
+  RootCheck(int eight, int count);
 
   // True where all of them are roots of the block.
   bool Divides(const InterleavedBlock& block) const;

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "job/ModuleString.h"
+
 namespace barhatch {
 
 namespace {
@@ -32,6 +34,35 @@ static_assert(ClassOf(16, 20) == 0 && ClassesLeadToLastModules(), "eight modules
 
 constexpr bool IsUpwards(int diagonal) { return diagonal % 2 != 0; }
 
+constexpr std::uint64_t Letter(const char* letters, int index) {
+  return std::uint64_t{static_cast<unsigned char>(letters[index])} << (56 - 8 * index);
+}
+
+// Eight letters, the first in the highest byte: written out, it is one load for compilers.
+constexpr std::uint64_t EightLetters(const char* letters) {
+  return Letter(letters, 0) | Letter(letters, 1) | Letter(letters, 2) | Letter(letters, 3) |
+         Letter(letters, 4) | Letter(letters, 5) | Letter(letters, 6) | Letter(letters, 7);
+}
+
+constexpr std::uint64_t kInEachByte = 0x0101010101010101;
+constexpr int kLightBit = 5;
+static_assert((kNarrowBar | 1 << kLightBit) == kNarrowSpace && kNarrowBar != kNarrowSpace, "");
+
+// The letters differ in one bit.
+constexpr bool AreModules(std::uint64_t eight) {
+  return (eight | kInEachByte << kLightBit) == kInEachByte * kNarrowSpace;
+}
+
+// A bit for each letter, 1 dark, the first the highest: the product moves that of letter i, bit
+// 56 - 8 i, to bit 63 - i.
+constexpr int DarkBits(std::uint64_t eight) {
+  const std::uint64_t dark = ~eight >> kLightBit & kInEachByte;
+  return static_cast<int>(dark * 0x0102040810204080 >> 56);
+}
+static_assert(DarkBits(EightLetters("AaaAAaAA")) == 0b10011011 &&
+                  AreModules(EightLetters("aAaAaAaA")),
+              "");
+
 // How far the codeword of a last module is from that of row 0 in its diagonal.
 constexpr int ShiftOf(int row, int diagonal) { return IsUpwards(diagonal) ? -(row / 2) : row / 2; }
 
@@ -39,21 +70,28 @@ constexpr int ShiftOf(int row, int diagonal) { return IsUpwards(diagonal) ? -(ro
 
 // Negative places count from the bottom and from the right.
 struct TornShape {
-  int places[8][2];  // row and column, bit by bit
-  int frontOf;    // the sum of row and column of its diagonal, less the rows: it comes first there
-  bool isExtra;   // no last module of the diagonal gives way to it
-  int lastGone;   // the diagonal that has no last module in row 0, less the columns; 0 for none
-  int firstGone;  // the diagonal that has none in row 1, less the columns; 1 for none
+  int places[8][2];    // row and column of each module, the most significant bit first
+  int frontOf;         // row + column, less the rows, of the diagonal in front of which it comes
+  bool isExtra;        // it takes the place of no last module there
+  int withoutHighest;  // row + column, less the columns, of the diagonal that lacks its highest one
 };
 
 namespace {
 
+constexpr int kNoDiagonal = 1;  // columns are even, and so are all of these sums
+
 // ISO/IEC 16022, the corner cases.
 constexpr TornShape kTorn[] = {
-    {{{-1, 0}, {-1, 1}, {-1, 2}, {0, -2}, {0, -1}, {1, -1}, {2, -1}, {3, -1}}, 0, true, 0, 1},
-    {{{-3, 0}, {-2, 0}, {-1, 0}, {0, -4}, {0, -3}, {0, -2}, {0, -1}, {1, -1}}, -2, false, -2, 1},
-    {{{-3, 0}, {-2, 0}, {-1, 0}, {0, -2}, {0, -1}, {1, -1}, {2, -1}, {3, -1}}, -2, false, 0, 1},
-    {{{-1, 0}, {-1, -1}, {0, -3}, {0, -2}, {0, -1}, {1, -3}, {1, -2}, {1, -1}}, 6, true, 0, 0},
+    {{{-1, 0}, {-1, 1}, {-1, 2}, {0, -2}, {0, -1}, {1, -1}, {2, -1}, {3, -1}},
+     0,
+     true,
+     kNoDiagonal},
+    {{{-3, 0}, {-2, 0}, {-1, 0}, {0, -4}, {0, -3}, {0, -2}, {0, -1}, {1, -1}}, -2, false, -2},
+    {{{-3, 0}, {-2, 0}, {-1, 0}, {0, -2}, {0, -1}, {1, -1}, {2, -1}, {3, -1}},
+     -2,
+     false,
+     kNoDiagonal},
+    {{{-1, 0}, {-1, -1}, {0, -3}, {0, -2}, {0, -1}, {1, -3}, {1, -2}, {1, -1}}, 6, true, 0},
 };
 
 const TornShape* TornIn(int rows, int columns) {
@@ -84,11 +122,10 @@ void ShownCodewords::NumberDiagonals() {
       tornCodeword_ = next;
       if (torn_->isExtra) ++next;
     }
-    if (torn_ != nullptr && sum == columns_ + torn_->firstGone) high += 2;
+    if (torn_ != nullptr && sum == columns_ + torn_->withoutHighest) high += 2;
     const int first = IsUpwards(diagonal) ? low : high;
     inRow0_[diagonal] = static_cast<std::int16_t>(next - ShiftOf(first, diagonal));
     next += (low - high) / 2 + 1;
-    if (torn_ != nullptr && torn_->lastGone != 0 && sum == columns_ + torn_->lastGone) --next;
   }
 }
 
@@ -110,64 +147,67 @@ int ShownCodewords::CodewordAt(int lastRow, int lastColumn) const {
 }
 
 // Two dark modules in one diagonal of the corner, two light ones in the other.
-bool ShownCodewords::TakeFixedCorner(int row, ModuleRow& modules) const {
+bool ShownCodewords::TakeFixedCorner(int row, char* letters) const {
   if (rows_ * columns_ % 8 == 0 || row < rows_ - 2) return true;
-  const int dark = columns_ - (rows_ - row);
-  const int light = 2 * columns_ - 3 - dark;
-  const bool isRight = modules.IsDark(dark) && !modules.IsDark(light);
-  modules.SetLight(dark);
-  modules.SetLight(light);
+  char& dark = letters[columns_ - (rows_ - row)];
+  char& light = letters[columns_ - 3 + (rows_ - row)];
+  const bool isRight = dark == kNarrowBar && light == kNarrowSpace;
+  dark = kNarrowSpace;
+  light = kNarrowSpace;
   return isRight;
 }
 
-void ShownCodewords::TakeTornShape(int row, ModuleRow& modules, std::uint8_t* codewords) const {
-  if (torn_ == nullptr) return;
+void ShownCodewords::TakeTornShape(int row, char* letters, std::uint8_t* codewords) const {
+  if (torn_ == nullptr || (row > 3 && row < rows_ - 3)) return;
   for (int bit = 0; bit < 8; ++bit) {
     if (FromEnd(torn_->places[bit][0], rows_) != row) continue;
-    const int column = FromEnd(torn_->places[bit][1], columns_);
-    if (!modules.IsDark(column)) continue;
+    char& letter = letters[FromEnd(torn_->places[bit][1], columns_)];
+    if (letter != kNarrowBar) continue;
     codewords[tornCodeword_] |= static_cast<std::uint8_t>(0x80 >> bit);
-    modules.SetLight(column);
+    letter = kNarrowSpace;
   }
 }
 
 // Eight modules from the class 1 on are of three codewords: three, two and three bits.
-void ShownCodewords::AddEights(int row, int first, int end, const ModuleRow& modules,
+bool ShownCodewords::AddEights(int row, int first, int end, const char* letters,
                                std::uint8_t* codewords) const {
-  const std::int16_t* inRow0 = inRow0_ + (row + first + 3) / 4;
   const int diagonal = (row + first + 3) / 4;
-  const int shift0 = ShiftOf(row + 1, diagonal);
-  const int shift1 = ShiftOf(row + 2, diagonal + 1);
-  const int shift2 = ShiftOf(row, diagonal + 1);
+  std::uint8_t* const codewords0 = codewords + ShiftOf(row + 1, diagonal);
+  std::uint8_t* const codewords1 = codewords + ShiftOf(row + 2, diagonal + 1);
+  std::uint8_t* const codewords2 = codewords + ShiftOf(row, diagonal + 1);
+  const std::int16_t* inRow0 = inRow0_ + diagonal;
   for (int column = first; column < end; column += 8, inRow0 += 2) {
-    const std::uint8_t* const bytes = modules.bytes + column / 8;
-    const int eight = (bytes[0] << 8 | bytes[1]) >> (8 - column % 8) & 0xFF;
-    codewords[inRow0[0] + shift0] |= static_cast<std::uint8_t>(eight >> 2 & 0x38);
-    codewords[inRow0[1] + shift1] |= static_cast<std::uint8_t>(eight << 3 & 0xC0);
-    codewords[inRow0[1] + shift2] |= static_cast<std::uint8_t>(eight & 0x07);
+    const std::uint64_t eight = EightLetters(letters + column);
+    if (!AreModules(eight)) return false;
+    const int dark = DarkBits(eight);
+    codewords0[inRow0[0]] |= static_cast<std::uint8_t>(dark >> 2 & 0x38);
+    codewords1[inRow0[1]] |= static_cast<std::uint8_t>(dark << 3 & 0xC0);
+    codewords2[inRow0[1]] |= static_cast<std::uint8_t>(dark & 0x07);
   }
+  return true;
 }
 
-void ShownCodewords::AddOneByOne(int row, int first, int end, const ModuleRow& modules,
+bool ShownCodewords::AddOneByOne(int row, int first, int end, const char* letters,
                                  std::uint8_t* codewords) const {
   for (int column = first; column < end; ++column) {
-    if (!modules.IsDark(column)) continue;
+    if (letters[column] == kNarrowSpace) continue;
+    if (letters[column] != kNarrowBar) return false;
     const PlaceClass& way = kClasses[ClassOf(row, column)];
     codewords[CodewordAt(row + way.rows, column + way.columns)] |=
         static_cast<std::uint8_t>(0x80 >> way.bit);
   }
+  return true;
 }
 
-bool ShownCodewords::AddRow(int row, ModuleRow modules, std::uint8_t* codewords) const {
-  const bool isRight = TakeFixedCorner(row, modules);
-  TakeTornShape(row, modules, codewords);
+bool ShownCodewords::AddRow(int row, char* letters, std::uint8_t* codewords) const {
+  if (!TakeFixedCorner(row, letters)) return false;
+  TakeTornShape(row, letters, codewords);
   // The last modules of the two lowest rows may lie below, as those of the last columns beside.
   const int first = (8 - ClassOf(row, 7)) % 8;
   const int end = row < rows_ - 2 ? columns_ - (columns_ - first) % 8 : first;
-  AddOneByOne(row, 0, first, modules, codewords);
-  AddEights(row, first, end, modules, codewords);
-  AddOneByOne(row, end, columns_, modules, codewords);
-  return isRight;
+  return AddOneByOne(row, 0, first, letters, codewords) &&
+         AddEights(row, first, end, letters, codewords) &&
+         AddOneByOne(row, end, columns_, letters, codewords);
 }
 
 }  // namespace barhatch

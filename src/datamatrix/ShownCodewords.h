@@ -23,19 +23,6 @@ namespace barhatch {
 
 constexpr int kMostMappingModules = 132;  // of the longest side
 
-// One row of a mapping matrix: eight modules a byte, 1 dark, the leftmost the highest bit; zeros
-// behind the last module.
-struct ModuleRow {
-  std::uint8_t bytes[kMostMappingModules / 8 + 2] = {};
-
-  bool IsDark(int column) const { return (bytes[column / 8] << column % 8 & 0x80) != 0; }
-  void SetDark(int column) { bytes[column / 8] |= MaskOf(column); }
-  void SetLight(int column) { bytes[column / 8] &= static_cast<std::uint8_t>(~MaskOf(column)); }
-
- private:
-  static std::uint8_t MaskOf(int column) { return static_cast<std::uint8_t>(0x80 >> column % 8); }
-};
-
 struct TornShape;
 
 class ShownCodewords {
@@ -44,8 +31,9 @@ class ShownCodewords {
   ShownCodewords(int rows, int columns);
 
   // Adds what a row shows to the codewords, rows x columns / 8 of them, which are 0 before the
-  // first row. False where modules that no codeword has are not as they have to be.
-  bool AddRow(int row, ModuleRow modules, std::uint8_t* codewords) const;
+  // first row. letters: those of the row (ModuleString.h), which are not kept. False for letters
+  // that are no modules, and where modules that no codeword has are not as they have to be.
+  bool AddRow(int row, char* letters, std::uint8_t* codewords) const;
 
  private:
   // Diagonals 0 to 65 have last modules in them.
@@ -53,12 +41,10 @@ class ShownCodewords {
 
   void NumberDiagonals();
   int CodewordAt(int lastRow, int lastColumn) const;
-  bool TakeFixedCorner(int row, ModuleRow& modules) const;
-  void TakeTornShape(int row, ModuleRow& modules, std::uint8_t* codewords) const;
-  void AddEights(int row, int first, int end, const ModuleRow& modules,
-                 std::uint8_t* codewords) const;
-  void AddOneByOne(int row, int first, int end, const ModuleRow& modules,
-                   std::uint8_t* codewords) const;
+  bool TakeFixedCorner(int row, char* letters) const;
+  void TakeTornShape(int row, char* letters, std::uint8_t* codewords) const;
+  bool AddEights(int row, int first, int end, const char* letters, std::uint8_t* codewords) const;
+  bool AddOneByOne(int row, int first, int end, const char* letters, std::uint8_t* codewords) const;
 
   const int rows_;
   const int columns_;

@@ -114,18 +114,13 @@ class GridReader {
   }
 
   bool ReadDataLine(const char* letters, char rightSide) {
-    ModuleRow row;
-    int column = 0;
-    for (int region = 0; region < columns_; region += regionColumns_) {
+    char row[kMostMappingModules];
+    char* next = row;
+    const int modules = regionColumns_ - 2;
+    for (int region = 0; region < columns_; region += regionColumns_, next += modules) {
       const char* const side = letters + region;
-      if (side[0] != kNarrowBar || side[regionColumns_ - 1] != rightSide) return false;
-      for (int i = 1; i < regionColumns_ - 1; ++i, ++column) {
-        if (side[i] == kNarrowBar) {
-          row.SetDark(column);
-        } else if (side[i] != kNarrowSpace) {
-          return false;
-        }
-      }
+      if (side[0] != kNarrowBar || side[modules + 1] != rightSide) return false;
+      std::memcpy(next, side + 1, static_cast<std::size_t>(modules));
     }
     return shown_.AddRow(row_++, row, codewords_);
   }
@@ -154,7 +149,7 @@ InterleavedBlock BlockAt(int block, const ReadSize& size, int dataCodewords, Blo
 bool HasNoErrors(const ReadSize& size, int dataCodewords, BlockOrder order,
                  const std::uint8_t* codewords) {
   for (int tested = 0; tested < size.errorCodewords; tested += 8) {
-    const RootCheck roots(tested + 1, std::min(8, size.errorCodewords - tested));
+    const RootCheck roots(tested / 8, std::min(8, size.errorCodewords - tested));
     for (int block = 0; block < size.blocks; ++block) {
       if (!roots.Divides(BlockAt(block, size, dataCodewords, order, codewords))) return false;
     }
