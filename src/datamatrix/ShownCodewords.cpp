@@ -1,7 +1,5 @@
 #include "datamatrix/ShownCodewords.h"
 
-#include <algorithm>
-
 #include "job/ModuleString.h"
 
 namespace barhatch {
@@ -81,18 +79,18 @@ namespace {
 constexpr int kNoDiagonal = 1;  // columns are even, and so are all of these sums
 
 // ISO/IEC 16022, the corner cases.
+// clang-format off
 constexpr TornShape kTorn[] = {
-    {{{-1, 0}, {-1, 1}, {-1, 2}, {0, -2}, {0, -1}, {1, -1}, {2, -1}, {3, -1}},
-     0,
-     true,
-     kNoDiagonal},
-    {{{-3, 0}, {-2, 0}, {-1, 0}, {0, -4}, {0, -3}, {0, -2}, {0, -1}, {1, -1}}, -2, false, -2},
-    {{{-3, 0}, {-2, 0}, {-1, 0}, {0, -2}, {0, -1}, {1, -1}, {2, -1}, {3, -1}},
-     -2,
-     false,
-     kNoDiagonal},
-    {{{-1, 0}, {-1, -1}, {0, -3}, {0, -2}, {0, -1}, {1, -3}, {1, -2}, {1, -1}}, 6, true, 0},
+    {{{-1, 0}, {-1,  1}, {-1,  2}, {0, -2}, {0, -1}, {1, -1}, {2, -1}, {3, -1}},
+      0, true,  kNoDiagonal},
+    {{{-3, 0}, {-2,  0}, {-1,  0}, {0, -4}, {0, -3}, {0, -2}, {0, -1}, {1, -1}},
+     -2, false, -2},
+    {{{-3, 0}, {-2,  0}, {-1,  0}, {0, -2}, {0, -1}, {1, -1}, {2, -1}, {3, -1}},
+     -2, false, kNoDiagonal},
+    {{{-1, 0}, {-1, -1}, { 0, -3}, {0, -2}, {0, -1}, {1, -3}, {1, -2}, {1, -1}},
+      6, true,  0},
 };
+// clang-format on
 
 const TornShape* TornIn(int rows, int columns) {
   if (rows % 8 == 4) return &kTorn[0];
@@ -100,6 +98,9 @@ const TornShape* TornIn(int rows, int columns) {
   if (columns % 4 != 0) return &kTorn[1];
   return columns % 8 == 4 ? &kTorn[2] : &kTorn[3];
 }
+
+constexpr int Smaller(int a, int b) { return a < b ? a : b; }
+constexpr int Larger(int a, int b) { return a > b ? a : b; }
 
 int FromEnd(int place, int count) { return place < 0 ? place + count : place; }
 
@@ -116,8 +117,8 @@ void ShownCodewords::NumberDiagonals() {
     const int sum = 4 * diagonal;
     // Last modules of even rows and columns, or of odd ones.
     const int odd = IsUpwards(diagonal) ? 0 : 1;
-    const int low = std::min(rows_ - 2 + odd, sum - odd);
-    int high = std::max(odd, sum - columns_ + 2 - odd);
+    const int low = Smaller(rows_ - 2 + odd, sum - odd);
+    int high = Larger(odd, sum - columns_ + 2 - odd);
     if (torn_ != nullptr && sum == rows_ + torn_->frontOf) {
       tornCodeword_ = next;
       if (torn_->isExtra) ++next;
@@ -149,11 +150,11 @@ int ShownCodewords::CodewordAt(int lastRow, int lastColumn) const {
 // Two dark modules in one diagonal of the corner, two light ones in the other.
 bool ShownCodewords::TakeFixedCorner(int row, char* letters) const {
   if (rows_ * columns_ % 8 == 0 || row < rows_ - 2) return true;
-  char& dark = letters[columns_ - (rows_ - row)];
-  char& light = letters[columns_ - 3 + (rows_ - row)];
-  const bool isRight = dark == kNarrowBar && light == kNarrowSpace;
-  dark = kNarrowSpace;
-  light = kNarrowSpace;
+  const int dark = columns_ - (rows_ - row);
+  const int light = columns_ - 3 + (rows_ - row);
+  const bool isRight = letters[dark] == kNarrowBar && letters[light] == kNarrowSpace;
+  letters[dark] = kNarrowSpace;
+  letters[light] = kNarrowSpace;
   return isRight;
 }
 
@@ -161,10 +162,10 @@ void ShownCodewords::TakeTornShape(int row, char* letters, std::uint8_t* codewor
   if (torn_ == nullptr || (row > 3 && row < rows_ - 3)) return;
   for (int bit = 0; bit < 8; ++bit) {
     if (FromEnd(torn_->places[bit][0], rows_) != row) continue;
-    char& letter = letters[FromEnd(torn_->places[bit][1], columns_)];
-    if (letter != kNarrowBar) continue;
+    const int column = FromEnd(torn_->places[bit][1], columns_);
+    if (letters[column] != kNarrowBar) continue;
     codewords[tornCodeword_] |= static_cast<std::uint8_t>(0x80 >> bit);
-    letter = kNarrowSpace;
+    letters[column] = kNarrowSpace;
   }
 }
 

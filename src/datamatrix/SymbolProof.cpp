@@ -1,6 +1,5 @@
 #include "datamatrix/SymbolProof.h"
 
-#include <algorithm>
 #include <cstddef>
 #include <cstring>
 
@@ -42,10 +41,9 @@ constexpr int kMostRegionModules = 26;  // of a side, its frame included
 
 // Regions along a side: as few of 1, 2, 4 and 6 as are small enough.
 constexpr int RegionsAlong(int modules) {
-  for (const int regions : {1, 2, 4}) {
-    if (modules <= regions * kMostRegionModules) return regions;
-  }
-  return 6;
+  int regions = 1;
+  while (regions <= 4 && modules > regions * kMostRegionModules) regions *= 2;
+  return regions <= 4 ? regions : 6;
 }
 static_assert(RegionsAlong(26) == 1 && RegionsAlong(32) == 2 && RegionsAlong(64) == 4, "");
 static_assert(RegionsAlong(104) == 4 && RegionsAlong(120) == 6, "");
@@ -149,7 +147,8 @@ InterleavedBlock BlockAt(int block, const ReadSize& size, int dataCodewords, Blo
 bool HasNoErrors(const ReadSize& size, int dataCodewords, BlockOrder order,
                  const std::uint8_t* codewords) {
   for (int tested = 0; tested < size.errorCodewords; tested += 8) {
-    const RootCheck roots(tested / 8, std::min(8, size.errorCodewords - tested));
+    const int left = size.errorCodewords - tested;
+    const RootCheck roots(tested / 8, left < 8 ? left : 8);
     for (int block = 0; block < size.blocks; ++block) {
       if (!roots.Divides(BlockAt(block, size, dataCodewords, order, codewords))) return false;
     }

@@ -6,7 +6,6 @@
 #include "datamatrix/SymbolProof.h"
 #include "job/ModuleString.h"
 #include "mark/Reading.h"
-#include "symbologies/Codabar.h"
 
 namespace barhatch {
 
@@ -34,9 +33,10 @@ bool AreLight(const char* letters, int count) {
 // The value of A to D, or of T, N, * and E, which are their other names. True for other characters:
 // they are a part of what is read.
 bool IsCodabarEnd(char character, int value) {
+  constexpr int kValueOfA = 16;  // B, C and D follow
   constexpr char kEnds[] = "ABCDTN*E";
   const char* const end = std::strchr(kEnds, character);
-  return character == '\0' || end == nullptr || value == kCodabarStartA + (end - kEnds) % 4;
+  return character == '\0' || end == nullptr || value == kValueOfA + (end - kEnds) % 4;
 }
 
 // Start and stop characters are values, but readers do not report them.

@@ -48,7 +48,7 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kGeometry, BARHATCH_BAD_GEOMETRY},
     {Reason::kNothingToMark, BARHATCH_NOTHING_TO_MARK},
     {Reason::kTooManyStrokes, BARHATCH_BAD_GEOMETRY},
-<<<<<<< HEAD
+    {Reason::kProof, BARHATCH_PROOF_FAILED},
     {Reason::kUnknownAi, BARHATCH_UNKNOWN_AI},
     {Reason::kAiTooLong, BARHATCH_BAD_AI_DATA},
     {Reason::kAiTooShort, BARHATCH_BAD_AI_DATA},
@@ -59,9 +59,6 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kAiValue, BARHATCH_BAD_AI_DATA},
     {Reason::kAiRepeated, BARHATCH_BAD_AI_DATA},
     {Reason::kGs1Syntax, BARHATCH_BAD_SYNTAX},
-=======
-    {Reason::kProof, BARHATCH_PROOF_FAILED},
->>>>>>> fa7c5eb (Every finished symbol is decoded again before it is marked)
     {Reason::kNoMemory, BARHATCH_NO_MEMORY},
 };
 
@@ -334,7 +331,9 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
     case Reason::kTooManyStrokes:
       message << "the gap asks for more strokes than a mark can have";
       break;
-<<<<<<< HEAD
+    case Reason::kProof:
+      message << "the symbol does not decode to the text: a defect of the library";
+      break;
     case Reason::kUnknownAi:
     case Reason::kAiTooLong:
     case Reason::kAiTooShort:
@@ -346,10 +345,6 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
     case Reason::kAiRepeated:
     case Reason::kGs1Syntax:
       SayElementRefusal(refusal, place, message);
-=======
-    case Reason::kProof:
-      message << "the symbol does not decode to the text: a defect of the library";
->>>>>>> fa7c5eb (Every finished symbol is decoded again before it is marked)
       break;
     case Reason::kNoMemory:
       message << "no memory";
