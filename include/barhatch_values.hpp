@@ -89,7 +89,7 @@ enum class Flag : std::uint32_t {
   kLooseEnd = BARHATCH_LOOSE_END,                   // not in this version
   kIndustry144 = BARHATCH_INDUSTRY_144,             // not in this version
   kPermit = BARHATCH_PERMIT,                        // write what readers know beside the standard
-  kNoProof = BARHATCH_NO_PROOF,                     // no effect in this version
+  kNoProof = BARHATCH_NO_PROOF,                     // the finished symbol is not decoded again
   kMayGrow = BARHATCH_MAY_GROW,                     // a Data Matrix beyond rows x columns
   kMask = BARHATCH_MASK,                            // not in this version
   kAddStartStop = BARHATCH_ADD_START_STOP,          // not in this version
@@ -142,7 +142,7 @@ enum class Status : std::int32_t {
   kBadGeometry = BARHATCH_BAD_GEOMETRY,       // sizes, gap or speeds that make no sense
   kNothingToMark = BARHATCH_NOTHING_TO_MARK,  // no stroke lies in any element
   kNoMemory = BARHATCH_NO_MEMORY,             // nothing is leaked
-  kProofFailed = BARHATCH_PROOF_FAILED        // not in this version
+  kProofFailed = BARHATCH_PROOF_FAILED        // a defect of the library: it marks something else
 };
 
 // What a host should know about a mark that was made.
