@@ -141,7 +141,7 @@ enum BarhatchFlag {
   BARHATCH_INDUSTRY_144 = 16,        /* Data Matrix: 144 x 144 in the industry's order; device marks have it */
   BARHATCH_PERMIT = 32,              /* write what readers know and the standard leaves out: UPC-E of number system 1,
                                         add-ons beside EAN-8 */
-  BARHATCH_NO_PROOF = 64,            /* no effect in this version */
+  BARHATCH_NO_PROOF = 64,            /* do not decode the finished symbol; see BARHATCH_PROOF_FAILED */
   BARHATCH_MAY_GROW = 128,           /* a Data Matrix may be larger than rows x columns */
   BARHATCH_MASK = 256,               /* Data Matrix: text stands for many, with # for a digit, A for a capital letter, ?
                                         for any byte, and \# \A \? \\ for themselves. The result has rows, columns,
@@ -248,7 +248,7 @@ enum BarhatchStatus {
   BARHATCH_BAD_GEOMETRY = 13, /* sizes, gap or speeds that make no sense */
   BARHATCH_NOTHING_TO_MARK = 14, /* no stroke lies in any element */
   BARHATCH_NO_MEMORY = 15,    /* nothing is leaked */
-  BARHATCH_PROOF_FAILED = 16  /* not in this version */
+  BARHATCH_PROOF_FAILED = 16  /* the finished symbol does not decode to the text: a defect of the library */
 };
 
 /* result.warnings: bits; message has the sentence of the gravest one */

@@ -92,7 +92,7 @@ enum class Flag : std::uint32_t {
   kLooseEnd = BARHATCH_LOOSE_END,                   // Data Matrix: ends as readers take them
   kIndustry144 = BARHATCH_INDUSTRY_144,             // 144 x 144 in the industry's order
   kPermit = BARHATCH_PERMIT,                        // write what readers know beside the standard
-  kNoProof = BARHATCH_NO_PROOF,                     // no effect in this version
+  kNoProof = BARHATCH_NO_PROOF,                     // the finished symbol is not decoded again
   kMayGrow = BARHATCH_MAY_GROW,                     // a Data Matrix beyond rows x columns
   kMask = BARHATCH_MASK,                            // Data Matrix: the size of many texts
   kAddStartStop = BARHATCH_ADD_START_STOP,          // not in this version
@@ -145,7 +145,7 @@ enum class Status : std::int32_t {
   kBadGeometry = BARHATCH_BAD_GEOMETRY,       // sizes, gap or speeds that make no sense
   kNothingToMark = BARHATCH_NOTHING_TO_MARK,  // no stroke lies in any element
   kNoMemory = BARHATCH_NO_MEMORY,             // nothing is leaked
-  kProofFailed = BARHATCH_PROOF_FAILED        // not in this version
+  kProofFailed = BARHATCH_PROOF_FAILED        // a defect of the library: it marks something else
 };
 
 // What a host should know about a mark that was made.

@@ -37,6 +37,7 @@ enum class Reason : std::uint8_t {
   kGeometry,            // sizes that make no sense
   kNothingToMark,
   kTooManyStrokes,  // more than a fill may have
+  kProof,           // the finished symbol does not decode to its text
   // GS1 element strings; the figure of all but the last is an AiFigure: identifier and detail
   kUnknownAi,        // not assigned
   kAiTooLong,        // a value; detail: its characters

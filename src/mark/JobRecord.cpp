@@ -94,9 +94,7 @@ bool IsPattern(std::int32_t pattern) {
   return pattern >= BARHATCH_SCAN_LINES && pattern <= BARHATCH_POINTS && pattern != 4;
 }
 
-bool IsInput(std::int32_t input) {
-  return input >= BARHATCH_UTF8 && input <= BARHATCH_CODEWORDS;
-}
+bool IsInput(std::int32_t input) { return input >= BARHATCH_UTF8 && input <= BARHATCH_CODEWORDS; }
 
 std::int32_t Refuse(std::int32_t status, const char* sentence, Message& message) {
   message << sentence;

@@ -4,7 +4,7 @@
 #include "mark/JobRecord.h"
 #include "mark/Mark.h"
 #include "mark/MarkedSymbol.h"
-#include "mark/Reading.h"
+#include "mark/Proof.h"
 #include "mark/TextTokens.h"
 #include "symbologies/SymbologyReaders.h"
 #include "symbologies/SymbologyTable.h"
@@ -85,7 +85,7 @@ void WarnOfDigits(std::size_t digits, std::uint32_t& warnings) {
 
 // The letters of the symbol alone, without the quiet zone that is drawn.
 Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const PreparedText& text,
-                 MarkedSymbol& symbol) {
+                 DeviationSet met, MarkedSymbol& symbol) {
   const auto quiet = static_cast<std::size_t>(drawn.quietLeft + drawn.quietRight);
   const std::size_t letters = drawn.length - quiet;
   symbol.reading = static_cast<char*>(symbol.memory.Allocate(letters + 1));
@@ -96,10 +96,7 @@ Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const Prepar
                              drawn.letters + drawn.quietLeft, letters, reading);
   symbol.readingLength = reading.textLength;
   symbol.valuesCount = reading.valuesCount;
-  const bool isText = symbol.isRead && IsReadingOfLinear(text.reading, {text.room, text.length},
-                                                         {symbol.reading, symbol.readingLength});
-  if (!isText) symbol.warnings |= BARHATCH_W_UNREADABLE;
-  return {};
+  return JudgeReading(job, ShowsItsText(job.symbology, text, symbol), met, symbol.warnings);
 }
 
 // What stands beside the symbol where it is not the reading.
@@ -132,13 +129,13 @@ void Describe(const BarhatchJob& job, const PreparedText& text, MarkedSymbol& sy
 }
 
 Refusal Finish(const BarhatchJob& job, const LinearSymbol& drawn, const PreparedText& text,
-               MarkedSymbol& symbol) {
+               DeviationSet met, MarkedSymbol& symbol) {
   symbol.letters = drawn.letters;
   symbol.columns = static_cast<int>(drawn.length);
   symbol.drawnQuiet = {drawn.quietLeft, drawn.quietRight, 0, 0};
   Describe(job, text, symbol);
   const Refusal refusal = KeepForPeople(text, symbol);
-  return refusal.IsRefused() ? refusal : ReadBack(job, drawn, text, symbol);
+  return refusal.IsRefused() ? refusal : ReadBack(job, drawn, text, met, symbol);
 }
 
 Refusal MakeAsTheDevice(const BarhatchJob& job, const InputText& text, std::size_t units,
@@ -153,7 +150,7 @@ Refusal MakeAsTheDevice(const BarhatchJob& job, const InputText& text, std::size
   const PreparedText whole = GivenText(*RowOf(job.symbology), bytes.get(), length);
   LinearSymbol drawn;
   const Refusal refusal = DrawAsTheDevice(job, whole, symbol.memory, how, drawn);
-  return refusal.IsRefused() ? refusal : Finish(job, drawn, whole, symbol);
+  return refusal.IsRefused() ? refusal : Finish(job, drawn, whole, how.Met(), symbol);
 }
 
 Refusal MakeCode128(const BarhatchJob& job, const TokenText& text, char* room,
@@ -164,7 +161,7 @@ Refusal MakeCode128(const BarhatchJob& job, const TokenText& text, char* room,
   LinearSymbol drawn;
   const Refusal refusal = DrawCode128(row, DrawnQuietModulesOf(job), text, symbol.memory, drawn);
   if (refusal.IsRefused()) return refusal;
-  return Finish(job, drawn, GivenText(row, room, ReadingOfCode128(text, room)), symbol);
+  return Finish(job, drawn, GivenText(row, room, ReadingOfCode128(text, room)), {}, symbol);
 }
 
 Refusal MakeOfTokens(const BarhatchJob& job, const TokenText& text, Conformance& how,
@@ -178,7 +175,7 @@ Refusal MakeOfTokens(const BarhatchJob& job, const TokenText& text, Conformance&
   LinearSymbol drawn;
   const Refusal refusal = DrawPublished(row, LinearOptionsOf(job), DrawnQuietModulesOf(job),
                                         symbol.memory, how, prepared, drawn);
-  return refusal.IsRefused() ? refusal : Finish(job, drawn, prepared, symbol);
+  return refusal.IsRefused() ? refusal : Finish(job, drawn, prepared, how.Met(), symbol);
 }
 
 // A function that the symbology lacks is refused as what it is.

@@ -5,6 +5,7 @@
 
 #include "datamatrix/MatrixReading.h"
 #include "mark/JobRecord.h"
+#include "mark/Proof.h"
 #include "mark/Reading.h"
 
 namespace barhatch {
@@ -30,13 +31,18 @@ Refusal CheckUnits(const TextUnits& text, std::uint32_t& warnings) {
   return {};
 }
 
-bool CopyCodewords(const MatrixSymbol& matrix, MarkedSymbol& symbol) {
+// What a reader finds in the grid, or would find without the proof that it does.
+Refusal TakeCodewords(const BarhatchJob& job, const MatrixSymbol& matrix, const Conformance& how,
+                      MarkedSymbol& symbol) {
   const int count = matrix.size.dataCodewords + matrix.size.errorCodewords;
   symbol.valuesCount = static_cast<std::size_t>(count);
   symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(symbol.valuesCount));
-  if (symbol.values == nullptr) return false;
+  if (symbol.values == nullptr) return {Reason::kNoMemory};
+  if (WantsProof(job)) {
+    return {ShowsItsCodewords(matrix, how, symbol) ? Reason::kNone : Reason::kProof};
+  }
   std::memcpy(symbol.values, matrix.codewords.data(), symbol.valuesCount);
-  return true;
+  return {};
 }
 
 Refusal MakeDeviceMatrix(const BarhatchJob& job, const InputText& text, std::size_t count,
@@ -53,18 +59,19 @@ Refusal MakeDeviceMatrix(const BarhatchJob& job, const InputText& text, std::siz
   const MatrixJob drawing = {content, DrawnQuietModulesOf(job), SizeRequestOf(job), HeaderOf(job)};
   Refusal refusal = EncodeDataMatrix(drawing, how, symbol.memory, matrix);
   if (refusal.IsRefused()) return refusal;
-  refusal = KeepMatrix(matrix, symbol, result);
+  refusal = KeepMatrix(job, matrix, how, symbol, result);
+  if (refusal.IsRefused()) return refusal;
   const bool isAsGiven = symbol.isRead && IsReadingOfMatrix(content, drawing.header,
                                                             {symbol.reading, symbol.readingLength});
-  if (!isAsGiven) symbol.warnings |= BARHATCH_W_UNREADABLE;
-  return refusal;
+  return JudgeReading(job, isAsGiven, how.Met(), symbol.warnings);
 }
 
 }  // namespace
 
 QuietSides OnAllSides(int modules) { return {modules, modules, modules, modules}; }
 
-Refusal KeepMatrix(const MatrixSymbol& matrix, MarkedSymbol& symbol, BarhatchResult& result) {
+Refusal KeepMatrix(const BarhatchJob& job, const MatrixSymbol& matrix, const Conformance& how,
+                   MarkedSymbol& symbol, BarhatchResult& result) {
   symbol.letters = matrix.letters;
   symbol.rows = matrix.rows;
   symbol.columns = matrix.columns;
@@ -72,11 +79,11 @@ Refusal KeepMatrix(const MatrixSymbol& matrix, MarkedSymbol& symbol, BarhatchRes
   result.codewords = matrix.codewords.Count();
   result.capacity = matrix.size.dataCodewords;
 
+  const Refusal refusal = TakeCodewords(job, matrix, how, symbol);
+  if (refusal.IsRefused()) return refusal;
   const std::size_t room = MostBytesRead(matrix.size.dataCodewords) + 1;
   symbol.reading = static_cast<char*>(symbol.memory.Allocate(room));
-  if (symbol.reading == nullptr || !CopyCodewords(matrix, symbol)) {
-    return {Reason::kNoMemory, -1, 0};
-  }
+  if (symbol.reading == nullptr) return {Reason::kNoMemory};
   symbol.isRead = ReadCodewords(symbol.values, matrix.size.dataCodewords, symbol.reading, room - 1,
                                 symbol.readingLength);
   symbol.reading[symbol.readingLength] = '\0';

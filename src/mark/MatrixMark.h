@@ -15,8 +15,9 @@ constexpr int kStandardQuietModules = 1;
 
 QuietSides OnAllSides(int modules);
 
-// Takes the drawn matrix over and has its codewords read back.
-Refusal KeepMatrix(const MatrixSymbol& matrix, MarkedSymbol& symbol, BarhatchResult& result);
+// Takes the drawn matrix over, proves that it shows its codewords and has them read back.
+Refusal KeepMatrix(const BarhatchJob& job, const MatrixSymbol& matrix, const Conformance& how,
+                   MarkedSymbol& symbol, BarhatchResult& result);
 
 // By the book. Of a mask the symbol has rows and columns alone.
 Refusal MakePublishedMatrix(const BarhatchJob& job, const InputText& text, std::size_t count,

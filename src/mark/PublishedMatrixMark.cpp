@@ -4,6 +4,7 @@
 #include "mark/JobRecord.h"
 #include "mark/MatrixMark.h"
 #include "mark/MatrixTokens.h"
+#include "mark/Proof.h"
 #include "mark/Reading.h"
 #include "mark/TextTokens.h"
 
@@ -45,11 +46,11 @@ Refusal MakeText(const BarhatchJob& job, const TokenText& tokens, Conformance& h
   Refusal refusal = EncodePublishedMatrix(text, SizeWishOf(job), DrawnQuietModulesOf(job), how,
                                           symbol.memory, matrix);
   if (refusal.IsRefused()) return refusal;
-  refusal = KeepMatrix(matrix, symbol, result);
+  refusal = KeepMatrix(job, matrix, how, symbol, result);
+  if (refusal.IsRefused()) return refusal;
   const Characters reading = {symbol.reading, symbol.readingLength};
   const bool isAsGiven = symbol.isRead && IsReadingOfTokens(tokens, text.head, reading);
-  if (!isAsGiven) symbol.warnings |= BARHATCH_W_UNREADABLE;
-  return refusal;
+  return JudgeReading(job, isAsGiven, how.Met(), symbol.warnings);
 }
 
 Refusal MakeCodewords(const BarhatchJob& job, const TokenText& tokens, Conformance& how,
@@ -62,7 +63,7 @@ Refusal MakeCodewords(const BarhatchJob& job, const TokenText& tokens, Conforman
   const Refusal refusal = DrawCodewords(codewords.get(), tokens.length, SizeWishOf(job),
                                         DrawnQuietModulesOf(job), how, symbol.memory, matrix);
   if (refusal.IsRefused()) return refusal;
-  const Refusal kept = KeepMatrix(matrix, symbol, result);
+  const Refusal kept = KeepMatrix(job, matrix, how, symbol, result);
   if (!symbol.isRead) symbol.warnings |= BARHATCH_W_UNREADABLE;
   return kept;
 }

@@ -51,6 +51,7 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kGeometry, BARHATCH_BAD_GEOMETRY},
     {Reason::kNothingToMark, BARHATCH_NOTHING_TO_MARK},
     {Reason::kTooManyStrokes, BARHATCH_BAD_GEOMETRY},
+    {Reason::kProof, BARHATCH_PROOF_FAILED},
     {Reason::kUnknownAi, BARHATCH_UNKNOWN_AI},
     {Reason::kAiTooLong, BARHATCH_BAD_AI_DATA},
     {Reason::kAiTooShort, BARHATCH_BAD_AI_DATA},
@@ -385,6 +386,9 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
       break;
     case Reason::kTooManyStrokes:
       message << "the gap asks for more strokes than a mark can have";
+      break;
+    case Reason::kProof:
+      message << "the symbol does not decode to the text: a defect of the library";
       break;
     case Reason::kUnknownAi:
     case Reason::kAiTooLong:
