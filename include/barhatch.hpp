@@ -97,7 +97,7 @@ struct Job {
   std::int32_t columns = 0;                           // of a Data Matrix
   Shape shape = Shape::kSquare;                       // of a Data Matrix of 0 x 0
   Set<Flag> flags;                                    // {Flag::kPermit, Flag::kMayGrow}
-  std::int32_t addonGap = 0;                          // 0 in this version
+  std::int32_t addonGap = 0;                          // modules; 0: 9
   Pattern pattern = Pattern::kScanLines;              // how the elements are filled
   std::int32_t profile = 0;                           // 0 in this version
   Set<Want> want;                                     // none: everything

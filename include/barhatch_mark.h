@@ -48,29 +48,30 @@ typedef unsigned __int64 uint64_t;
 extern "C" {
 #endif
 
-/* job.symbology. 0 to 22 are the types of SetBarcodeType. */
+/* job.symbology. 0 to 22 are the types of SetBarcodeType. EAN and UPC are told by the book: the device takes 12, 11, 7 and
+ * 7 digits of EAN-13, UPC-A, UPC-E and EAN-8, and those of the add-on behind them. */
 enum BarhatchSymbology {
   BARHATCH_CODABAR = 0,            /* start and stop in the text: "A1234B" */
   BARHATCH_CODE_39 = 1,            /* digits, A to Z, - . $ / + % and space */
   BARHATCH_CODE_93 = 2,            /* the same characters */
-  BARHATCH_EAN_13 = 3,             /* 12 digits; the check digit is added */
+  BARHATCH_EAN_13 = 3,             /* 12 digits, or 13 with the check digit; behind a + the 2 or 5 of an add-on */
   BARHATCH_MSI = 4,                /* digits; one check digit, modulo 10, is added */
   BARHATCH_CODE_128 = 5,           /* bytes; the code sets are chosen, by the book as short as can be */
   BARHATCH_CODE_128_A = 6,         /* begins in set A */
   BARHATCH_CODE_128_B = 7,         /* begins in set B */
   BARHATCH_CODE_128_C = 8,         /* begins in set C */
-  BARHATCH_UPC_A = 9,              /* 11 digits; the check digit is added */
-  BARHATCH_UPC_E = 10,             /* number system and 6 digits */
+  BARHATCH_UPC_A = 9,              /* 11 digits, or 12 with the check digit; add-on likewise */
+  BARHATCH_UPC_E = 10,             /* 6 digits; 7, 8 with number system, check digit; 11, 12 of UPC-A; add-on likewise */
   BARHATCH_CODE_11 = 11,           /* digits and -; check characters are added */
-  BARHATCH_EAN_8 = 12,             /* 7 digits; the check digit is added */
-  BARHATCH_UPC_A_ADDON_2 = 13,     /* 11 digits and the 2 of the add-on */
-  BARHATCH_UPC_A_ADDON_5 = 14,     /* 11 digits and the 5 of the add-on */
-  BARHATCH_EAN_13_ADDON_2 = 15,    /* 12 and 2 digits */
-  BARHATCH_EAN_13_ADDON_5 = 16,    /* 12 and 5 digits */
-  BARHATCH_EAN_8_ADDON_2 = 17,     /* 7 and 2 digits; outside the standard */
-  BARHATCH_EAN_8_ADDON_5 = 18,     /* 7 and 5 digits; outside the standard */
-  BARHATCH_UPC_E_ADDON_2 = 19,     /* 7 and 2 digits */
-  BARHATCH_UPC_E_ADDON_5 = 20,     /* 7 and 5 digits */
+  BARHATCH_EAN_8 = 12,             /* 7 digits, or 8 with the check digit */
+  BARHATCH_UPC_A_ADDON_2 = 13,     /* the digits of UPC-A and the 2 of the add-on; + may stand between */
+  BARHATCH_UPC_A_ADDON_5 = 14,     /* and the 5 of the add-on, likewise below */
+  BARHATCH_EAN_13_ADDON_2 = 15,    /* the digits of EAN-13 and 2 */
+  BARHATCH_EAN_13_ADDON_5 = 16,    /* and 5 */
+  BARHATCH_EAN_8_ADDON_2 = 17,     /* the digits of EAN-8 and 2; outside the standard */
+  BARHATCH_EAN_8_ADDON_5 = 18,     /* and 5; outside the standard */
+  BARHATCH_UPC_E_ADDON_2 = 19,     /* the digits of UPC-E and 2; behind 6 of them the + is needed */
+  BARHATCH_UPC_E_ADDON_5 = 20,     /* and 5; likewise */
   BARHATCH_INTERLEAVED_2_OF_5 = 21, /* digits; an odd number of them gets a 0 in front */
   BARHATCH_CODE_93_FULL = 22,      /* ASCII */
   BARHATCH_DATA_MATRIX = 100,      /* ECC 200 */
@@ -180,7 +181,7 @@ typedef struct BarhatchJob {
   int32_t columns;         /* of a Data Matrix */
   int32_t shape;           /* BarhatchShape */
   uint32_t flags;          /* BarhatchFlag, added up */
-  int32_t addon_gap;       /* 0 in this version */
+  int32_t addon_gap;       /* modules in front of an add-on: 7 to 12 beside EAN, 9 to 12 beside UPC; 0: 9 */
   int32_t pattern;         /* BarhatchPattern */
   int32_t profile;         /* 0 in this version */
   int32_t want;            /* BarhatchWant, added up */
@@ -219,13 +220,13 @@ enum BarhatchStatus {
   BARHATCH_EMPTY = 3,         /* there is no text */
   BARHATCH_BAD_CHARACTER = 4, /* position says which */
   BARHATCH_BAD_LENGTH = 5,    /* another number of characters is needed */
-  BARHATCH_BAD_CHECK = 6,     /* not in this version */
-  BARHATCH_BAD_SYNTAX = 7,    /* start or stop character missing, an escape or a GS1 element that is none */
+  BARHATCH_BAD_CHECK = 6,     /* a check digit is wrong; message has the right one */
+  BARHATCH_BAD_SYNTAX = 7,    /* start or stop character missing, an escape, a GS1 element or an add-on that is none */
   BARHATCH_UNKNOWN_AI = 8,    /* a GS1 application identifier that is not assigned; see BARHATCH_PERMIT */
   BARHATCH_BAD_AI_DATA = 9,   /* the value of a GS1 application identifier is not as its format says */
   BARHATCH_TOO_LONG = 10,     /* for the symbol */
   BARHATCH_NO_SUCH_SIZE = 11, /* rows x columns is no size of a Data Matrix */
-  BARHATCH_NOT_STANDARD = 12, /* see BARHATCH_PERMIT */
+  BARHATCH_NOT_STANDARD = 12, /* see BARHATCH_PERMIT; digits that are no UPC-E */
   BARHATCH_BAD_GEOMETRY = 13, /* sizes, gap or speeds that make no sense */
   BARHATCH_NOTHING_TO_MARK = 14, /* no stroke lies in any element */
   BARHATCH_NO_MEMORY = 15,    /* nothing is leaked */

@@ -132,7 +132,7 @@ enum class Status : std::int32_t {
   kEmpty = BARHATCH_EMPTY,                    // there is no text
   kBadCharacter = BARHATCH_BAD_CHARACTER,     // at position
   kBadLength = BARHATCH_BAD_LENGTH,           // another number of characters is needed
-  kBadCheck = BARHATCH_BAD_CHECK,             // not in this version
+  kBadCheck = BARHATCH_BAD_CHECK,             // a check digit is wrong
   kBadSyntax = BARHATCH_BAD_SYNTAX,           // start or stop character missing
   kUnknownAi = BARHATCH_UNKNOWN_AI,           // a GS1 application identifier that there is none
   kBadAiData = BARHATCH_BAD_AI_DATA,          // a value that does not fit its identifier

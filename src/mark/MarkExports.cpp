@@ -63,31 +63,37 @@ bool LosesElements(const BarhatchJob& job, const MarkedSymbol& symbol) {
 constexpr std::size_t kUpcEDigits = 6;
 constexpr std::size_t kUpcADigits = 11;
 
-// An add-on reaches to the end of the text. All that is refused together is ASCII.
-std::size_t ExtentOf(const Refusal& refusal, const InputText& text, const TextPlace& place) {
-  const std::size_t rest = text.Length() - place.begin;
-  const bool isNumberSystem = refusal.position == 0;
+// Characters that are refused together, from the position on; 0 for all that are left.
+std::size_t RefusedTogether(const Refusal& refusal) {
   switch (refusal.reason) {
     case Reason::kUpcEForm:
       return kUpcEDigits;
     case Reason::kNoUpcE:
       return kUpcADigits;
     case Reason::kAddonDigits:
-      return rest;
-    case Reason::kNotStandard:
-      return isNumberSystem ? place.extent : rest;
+      return 0;
+    case Reason::kNotStandard:  // the number system, or an add-on to the end
+      return refusal.position == 0 ? 1 : 0;
     default:
-      return place.extent;
+      return 1;
   }
+}
+
+TextPlace PlaceOf(const InputText& text, const Refusal& refusal) {
+  const auto position = static_cast<std::size_t>(refusal.position);
+  const std::size_t count = RefusedTogether(refusal);
+  const TextPlace first = text.PlaceOf(position);
+  if (count == 0) return {first.begin, text.Length() - first.begin};
+  const TextPlace last = text.PlaceOf(position + count - 1);
+  return {first.begin, last.begin + last.extent - first.begin};
 }
 
 Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result) {
   if (refusal.position < 0) return refusal;
-  TextPlace place = text.PlaceOf(static_cast<std::size_t>(refusal.position));
+  const TextPlace place = PlaceOf(text, refusal);
   if (refusal.reason == Reason::kCharacter || refusal.reason == Reason::kFunction) {
     refusal.figure = static_cast<std::int32_t>(text.TokenAt(place));
   }
-  place.extent = ExtentOf(refusal, text, place);
   SetPlace(place, result);
   return refusal;
 }

@@ -147,7 +147,7 @@ Message& SayCharacterCode(std::int32_t code, Message& message) {
 }
 
 void SayCheck(const BarhatchJob& job, std::int32_t right, std::int32_t place, Message& message) {
-  const std::uint32_t given = InputText(job).TokenAt({static_cast<std::size_t>(place - 1), 1});
+  const Token given = InputText(job).TokenAt({static_cast<std::size_t>(place - 1), 1});
   const bool isDigit = right >= '0' && right <= '9';
   message << (isDigit ? "check digit " : "check character ");
   SayCharacterCode(static_cast<std::int32_t>(given), message) << " at " << place << " should be ";

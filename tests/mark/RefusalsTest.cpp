@@ -330,6 +330,22 @@ TEST(Refusals, CheckDigitsThatAreWrong) {
             "6 at 13+1: check digit 4 at 13 should be 3");
 }
 
+// "^050" is a 2.
+TEST(Refusals, DigitsThatAreRefusedTogetherAreCountedInTheHostsText) {
+  const auto escaped = [](std::int32_t symbology, const char* text) {
+    BarhatchJob job = PublishedJobOf(symbology, text);
+    job.input = BARHATCH_ESCAPED;
+    return Refused(job);
+  };
+  EXPECT_EQ(escaped(10, "01^0502453"),
+            "12 at 2+9: the six digits at 2 are no UPC-A number without its zeros: 120452 are");
+  EXPECT_EQ(escaped(10, "01^05034567890^053"),
+            "12 at 1+14: the UPC-A number at 1 has no zeros that UPC-E could leave out");
+  EXPECT_EQ(escaped(3, "9501101530^048^048^052"), "6 at 19+4: check digit 4 at 19 should be 3");
+  EXPECT_EQ(escaped(12, "9638507^0431^050"),
+            "12 at 8+9: an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
+}
+
 TEST(Refusals, SignsOfAddonsAtAWrongPlace) {
   EXPECT_EQ(Published(3, "9501101530003+12+34"),
             "7 at 17+1: a second + at 17: one stands in front of the add-on");

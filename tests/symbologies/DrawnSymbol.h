@@ -48,10 +48,11 @@ struct PublishedSymbol {
 
 inline PublishedSymbol DrawByTheBook(std::int32_t symbology, const std::string& text,
                                      const LinearOptions& options = {},
-                                     QuietZone quietZone = QuietZone::kNone) {
+                                     QuietZone quietZone = QuietZone::kNone,
+                                     DeviationSet permitted = {}) {
   std::string room(PreparationRoom(text.size()), '?');
   room.replace(0, text.size() + 1, text.c_str(), text.size() + 1);
-  Conformance how = Conformance::Published();
+  Conformance how(permitted);
   const SymbologyRow& row = *RowOf(symbology);
   PreparedText prepared = GivenText(row, room.data(), text.size());
   LinearSymbol symbol;

@@ -4,9 +4,11 @@
 #include <gtest/gtest.h>
 #include <zint.h>
 
+#include <algorithm>
 #include <memory>
 #include <string>
 
+#include "support/EanUpcReader.h"
 #include "support/SeededTexts.h"
 #include "symbologies/DrawnSymbol.h"
 #include "symbologies/EanUpcTesting.h"
@@ -210,6 +212,86 @@ TEST(GeneratorComparison, UpcE) {
   CompareEanUpc({test::kUpcE, BARCODE_UPCE, 7, 0, 51}, "01");
   CompareEanUpc({test::kUpcEAddon2, BARCODE_UPCE, 7, 2, 51}, "01");
   CompareEanUpc({test::kUpcEAddon5, BARCODE_UPCE, 7, 5, 51}, "01");
+}
+
+// Texts as hosts have them: with a check digit that is right or wrong, UPC-E in its short forms, an
+// add-on behind its sign at any gap.
+struct EanUpcKind {
+  int type;
+  int symbology;
+  std::size_t digits;  // without the check digit
+  int leastGap;
+  std::string firsts;
+};
+
+std::string RandomMainDigits(const EanUpcKind& kind, SeededTexts& texts) {
+  std::string digits =
+      texts.Next(kind.firsts, 1, 1) + texts.Next(kDigits, kind.digits - 1, kind.digits - 1);
+  const bool isUpcE = kind.symbology == BARCODE_UPCE;
+  switch (texts.Next("0123456789", 1, 1)[0]) {
+    case '0':
+    case '1':
+    case '2':
+      return digits;
+    case '3':
+    case '4':
+      return isUpcE && digits[0] == '0' ? digits.substr(1) : digits;
+    case '5':
+      return digits + texts.Next(kDigits, 1, 1);
+    default:
+      return digits + test::MissingCheckDigit(isUpcE ? test::ExpandedUpcE(digits) : digits);
+  }
+}
+
+struct Tally {
+  int drawn = 0;
+  int refused = 0;
+};
+
+// The generator takes eight digits as an EAN-13 with zeros in front: it is asked for the seven that
+// a right check digit stands behind.
+std::string EanUpcOfTheGeneratorByTheBook(const EanUpcKind& kind, std::string text, int gap) {
+  const std::size_t digits = std::min(text.find('+'), text.size());
+  if (kind.digits == 7 && kind.symbology == BARCODE_EANX && digits == 8) {
+    if (text[7] != test::MissingCheckDigit(text.substr(0, 7))) return "refused";
+    text.erase(7, 1);
+  }
+  const bool hasAddon = text.find('+') != std::string::npos;
+  return ModulesOfTheGenerator(kind.symbology, hasAddon ? gap : 0, text);
+}
+
+// Both draw the same, or both refuse.
+void CompareEanUpcText(const EanUpcKind& kind, const std::string& text, int gap, Tally& tally) {
+  DeviationSet permitted;
+  permitted.Add(Deviation::kDEAN_2);
+  permitted.Add(Deviation::kDEAN_3);
+  LinearOptions options;
+  options.addonGap = gap;
+  const std::string ours = ModulesOf(
+      test::DrawByTheBook(kind.type, text, options, test::QuietZone::kNone, permitted).letters);
+  const std::string theirs = EanUpcOfTheGeneratorByTheBook(kind, text, gap);
+  const bool isDrawn = theirs.find_first_not_of("01") == std::string::npos;
+  (isDrawn ? tally.drawn : tally.refused)++;
+  ASSERT_EQ(ours, isDrawn ? theirs : "") << kind.type << " " << text << ": " << theirs;
+}
+
+void CompareEanUpcTexts(const EanUpcKind& kind) {
+  SeededTexts texts(1516);
+  Tally tally;
+  for (int i = 0; i < 4000; ++i) {
+    std::string text = RandomMainDigits(kind, texts);
+    if (i % 3 != 0) text += '+' + texts.Next(kDigits, i % 3 == 1 ? 2 : 5, i % 3 == 1 ? 2 : 5);
+    CompareEanUpcText(kind, text, kind.leastGap + i % (13 - kind.leastGap), tally);
+  }
+  EXPECT_GT(tally.drawn, 2000);
+  EXPECT_GT(tally.refused, 200) << "wrong check digits";
+}
+
+TEST(GeneratorComparison, EanAndUpcAsHostsGiveThem) {
+  CompareEanUpcTexts({test::kEan13, BARCODE_EANX, 12, 7, kDigits});
+  CompareEanUpcTexts({test::kUpcA, BARCODE_UPCA, 11, 9, kDigits});
+  CompareEanUpcTexts({test::kEan8, BARCODE_EANX, 7, 7, kDigits});
+  CompareEanUpcTexts({test::kUpcE, BARCODE_UPCE, 7, 9, "01"});
 }
 
 }  // namespace
