@@ -121,7 +121,7 @@ Refusal PrepareItf14(const LinearOptions& options, PreparedText& text, Conforman
   if (refusal.IsRefused()) return refusal;
   if (text.length == kItf14Digits) return VerifyCheck(text, how);
   if (options.check == CheckScheme::kVerify) {
-    return {Reason::kLength, -1, static_cast<std::int32_t>(text.length)};
+    return {Reason::kCheckCount, -1, static_cast<std::int32_t>(text.length)};
   }
   AppendCheck(text, how);
   return {};

@@ -9,7 +9,7 @@
 //   kMsi11          4    weights 2 to 7
 //   kMsi11And10     41
 //   kMsiNcr11       9    weights 2 to 9
-//   kMsiNcr11And10  95
+//   kMsiNcr11And10  90
 //
 // A check of modulo 11 that is 10 has no digit: the text is refused.
 //

@@ -36,15 +36,8 @@ std::optional<std::string> TextOf(const std::optional<std::string>& symbol) {
 char Modulo10(const std::string& digits) {
   return MsiModulo10Check({digits.c_str(), digits.size()});
 }
-char Modulo11(const std::string& digits) {
-  return MsiModulo11Check({digits.c_str(), digits.size()});
-}
-
-std::optional<std::string> EncodeWithModulo11(const std::string& text) {
-  Conformance how = Conformance::Published();
-  SymbolWriter out(RuntimeMemory(), 0, {10, 10});
-  EncodeMsi({text.c_str(), text.size()}, static_cast<int>(MsiCheckScheme::kModulo11), how, out);
-  return Take(out.Release());
+int Modulo11(const std::string& digits, int lastWeight = kMsiLastWeight) {
+  return MsiModulo11Check({digits.c_str(), digits.size()}, lastWeight);
 }
 
 TEST(Msi, OneTwoThreeFourHasTheCheckDigitFour) {
@@ -131,33 +124,29 @@ TEST(MsiReaderItself, DoublesNumbersWithCarry) {
 }
 
 // Weights 2 3 4 5 6 7 from the right: 4 x 2 + 3 x 3 + 2 x 4 + 1 x 5 = 30, and 11 - 8 is 3.
-TEST(MsiModulo11, WeightsRiseFromTwoAtTheRight) { EXPECT_EQ(Modulo11("1234"), '3'); }
+TEST(MsiModulo11, WeightsRiseFromTwoAtTheRight) { EXPECT_EQ(Modulo11("1234"), 3); }
 
 TEST(MsiModulo11, WeightsComeRoundAfterSeven) {
-  EXPECT_EQ(Modulo11("100000"), '4');   // 11 - 7
-  EXPECT_EQ(Modulo11("1000000"), '9');  // 11 - 2
-  EXPECT_EQ(Modulo11("10000000"), '8');
-  EXPECT_EQ(Modulo11("1000000000000"), '9');
+  EXPECT_EQ(Modulo11("100000"), 4);   // 11 - 7
+  EXPECT_EQ(Modulo11("1000000"), 9);  // 11 - 2
+  EXPECT_EQ(Modulo11("10000000"), 8);
+  EXPECT_EQ(Modulo11("1000000000000"), 9);
 }
 
 TEST(MsiModulo11, NoRemainderGivesZero) {
-  EXPECT_EQ(Modulo11(""), '0');
-  EXPECT_EQ(Modulo11("000"), '0');
-  EXPECT_EQ(Modulo11("14"), '0');  // 4 x 2 + 1 x 3 = 11
+  EXPECT_EQ(Modulo11(""), 0);
+  EXPECT_EQ(Modulo11("000"), 0);
+  EXPECT_EQ(Modulo11("14"), 0);  // 4 x 2 + 1 x 3 = 11
 }
 
-TEST(MsiModulo11, CheckOfTenIsTheCharacterAfterNine) {
-  EXPECT_EQ(Modulo11("6"), ':');  // 6 x 2 = 12, and 11 - 1 is 10
+TEST(MsiModulo11, CheckOfTenIsTen) {
+  EXPECT_EQ(Modulo11("6"), 10);  // 6 x 2 = 12, and 11 - 1 is 10
 }
 
-TEST(MsiModulo11, SymbolEndsWithTheModulo11Digit) {
-  EXPECT_EQ(EncodeWithModulo11("1234"), Quiet() +
-                                            Modules("110"
-                                                    "100100100110 100100110100 100100110110"
-                                                    "100110100100 100100110110 1001") +
-                                            Quiet());
-  EXPECT_EQ(EncodeWithModulo11("6"),
-            Quiet() + Modules("110 100110110100 110100110100 1001") + Quiet());
+TEST(MsiModulo11, WeightsOfNcrComeRoundAfterNine) {
+  EXPECT_EQ(Modulo11("1000000", kMsiLastWeightOfNcr), 3);    // 11 - 8
+  EXPECT_EQ(Modulo11("10000000", kMsiLastWeightOfNcr), 2);   // 11 - 9
+  EXPECT_EQ(Modulo11("100000000", kMsiLastWeightOfNcr), 9);  // 11 - 2
 }
 
 class MsiExports : public test::SettingsFixture {};
