@@ -300,6 +300,16 @@ TEST(Refusals, SizesThatDoNotExist) {
   EXPECT_TRUE(Mark(MatrixOf("12345678", 11, 11, BARHATCH_MAY_GROW)).IsOk());
 }
 
+// The smallest size is asked for by neither.
+TEST(Refusals, SizesOfOneSideAlone) {
+  const char* const refusal = "10 at 0+0: 3 codewords, ";
+  EXPECT_EQ(Refused(MatrixOf("123456", 8, 0)),
+            std::string(refusal) + "8x0 is no size; MAY_GROW allows a larger one");
+  EXPECT_EQ(Refused(MatrixOf("123456", 0, 18)),
+            std::string(refusal) + "0x18 is no size; MAY_GROW allows a larger one");
+  EXPECT_TRUE(Mark(MatrixOf("123456", 0, 18, BARHATCH_MAY_GROW)).IsOk());
+}
+
 TEST(Refusals, SymbolsThatTheStandardLeavesOut) {
   EXPECT_EQ(Published(10, "1425261"),
             "12 at 1+1: UPC-E of number system 1 is outside ISO/IEC 15420; set PERMIT");
