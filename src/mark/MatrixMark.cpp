@@ -43,7 +43,7 @@ Refusal MakeDeviceMatrix(const BarhatchJob& job, const InputText& text, std::siz
                          Conformance& how, MarkedSymbol& symbol, BarhatchResult& result) {
   if (count > kMaxDataMatrixText) return {Reason::kLength, -1, FigureOf(count)};
   const Block<char16_t> given(symbol.memory, count + 1);
-  if (given.get() == nullptr) return {Reason::kNoMemory, -1, 0};
+  if (given.get() == nullptr) return {Reason::kNoMemory};
   text.CopyUnits(given.get(), count);
   const TextUnits content = {given.get(), count};
   const Refusal unit = CheckUnits(content, symbol.warnings);
@@ -75,7 +75,7 @@ Refusal KeepMatrix(const MatrixSymbol& matrix, MarkedSymbol& symbol, BarhatchRes
   const std::size_t room = MostBytesRead(matrix.size.dataCodewords) + 1;
   symbol.reading = static_cast<char*>(symbol.memory.Allocate(room));
   if (symbol.reading == nullptr || !CopyCodewords(matrix, symbol)) {
-    return {Reason::kNoMemory, -1, 0};
+    return {Reason::kNoMemory};
   }
   symbol.isRead = ReadCodewords(symbol.values, matrix.size.dataCodewords, symbol.reading, room - 1,
                                 symbol.readingLength);

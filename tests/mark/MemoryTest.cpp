@@ -106,6 +106,14 @@ TEST(MarkMemory, IsTheSameMarkWhereverItComesFrom) {
   });
 }
 
+TEST(MarkMemory, NeedNotBeZeroForAZeroBehindTheReading) {
+  ForEachJob([](BarhatchJob& job) {
+    HostMemory memory;
+    const Mark mark(memory.Serve(job));
+    EXPECT_TRUE(mark->reading == nullptr || mark->reading[mark->reading_length] == '\0');
+  });
+}
+
 TEST(MarkMemory, OfARefusedMarkIsGivenBackBeforeTheReturn) {
   for (const char* const text : {"A\xC3", "a", "", "ABC"}) {
     BarhatchJob job = PublishedJobOf(BARHATCH_EAN_13, text);

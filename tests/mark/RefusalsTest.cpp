@@ -245,6 +245,7 @@ TEST(Refusals, TextsThatAreTooLong) {
             "5 at 0+0: Code 39 takes at most 3114 characters, 3115 given");
   EXPECT_EQ(Published(0, ("A" + Digits(3115) + "B").c_str()),
             "5 at 0+0: Codabar takes at most 3116 characters, 3117 given");
+  EXPECT_TRUE(Mark(JobOf(100, Digits(3116).c_str())).IsOk());
   EXPECT_EQ(Device(100, Digits(3117).c_str()),
             "5 at 0+0: Data Matrix takes at most 3116 characters, 3117 given");
 }
