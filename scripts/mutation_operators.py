@@ -137,6 +137,10 @@ EQUIVALENT = (
       for other in ("- 1", "+ 0", "+ 2")),
     *(("MatrixMark.cpp", before, after, "no codewords are read as more bytes than MostBytesRead says")
       for before, after in (("room - 1", "room + 1"), ("room - 1", "room - 0"), ("dataCodewords) + 1", "dataCodewords) + 2"))),
+    *(("ResultBlock.cpp", before, after, "a machine of 32 bits alone has less room than the strokes of a mark may take")
+      for before, after in (("PTRDIFF_MAX) - bytes", "PTRDIFF_MAX) + bytes"), ("doubles > most", "doubles >= most"),
+                            ("most / sizeof", "most * sizeof"), ("return false;", "return true;"),
+                            ("(doubles > most / sizeof(double))", "(false)"))),
     ("Hatcher.cpp", "mostDoubles <= 0", "mostDoubles < 0", "a list of nothing makes no fill either"),
     ("LinePatterns.cpp", "strokes > kMostDoubles", "strokes >= kMostDoubles", "so many are refused with their coordinates"),
     ("SpiralPattern.cpp", "lower = lowEdge", "", "every bound is 0.0 from the start"),
