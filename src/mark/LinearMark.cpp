@@ -90,7 +90,7 @@ Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const Prepar
   const std::size_t letters = drawn.length - quiet;
   symbol.reading = static_cast<char*>(symbol.memory.Allocate(letters + 1));
   symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(letters));
-  if (symbol.reading == nullptr || symbol.values == nullptr) return {Reason::kNoMemory, -1, 0};
+  if (symbol.reading == nullptr || symbol.values == nullptr) return {Reason::kNoMemory};
   SymbolReading reading = {symbol.reading, 0, symbol.values, 0};
   symbol.isRead = ReadSymbol(job.symbology, LinearOptionsOf(job).check,
                              drawn.letters + drawn.quietLeft, letters, reading);
@@ -113,7 +113,7 @@ Refusal KeepForPeople(const PreparedText& text, MarkedSymbol& symbol) {
 Refusal DrawAsTheDevice(const BarhatchJob& job, const PreparedText& text, const Memory& memory,
                         Conformance& how, LinearSymbol& drawn) {
   const Block<char> copy(memory, text.length + 1);
-  if (copy.get() == nullptr) return {Reason::kNoMemory, -1, 0};
+  if (copy.get() == nullptr) return {Reason::kNoMemory};
   std::memcpy(copy.get(), text.room, text.length + 1);
   const LinearJob linear = {job.symbology, copy.get(), text.length, DrawnQuietModulesOf(job)};
   return DrawLinear(linear, 0, memory, how, drawn);

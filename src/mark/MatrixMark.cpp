@@ -49,7 +49,7 @@ Refusal MakeDeviceMatrix(const BarhatchJob& job, const InputText& text, std::siz
                          Conformance& how, MarkedSymbol& symbol, BarhatchResult& result) {
   if (count > kMaxDataMatrixText) return {Reason::kLength, -1, FigureOf(count)};
   const Block<char16_t> given(symbol.memory, count + 1);
-  if (given.get() == nullptr) return {Reason::kNoMemory, -1, 0};
+  if (given.get() == nullptr) return {Reason::kNoMemory};
   text.CopyUnits(given.get(), count);
   const TextUnits content = {given.get(), count};
   const Refusal unit = CheckUnits(content, symbol.warnings);

@@ -193,7 +193,7 @@ MatrixHead MatrixHeadOf(const BarhatchJob& job) {
 
 Refusal TokensOfMatrix(const BarhatchJob& job, const TokenText& text, Token* tokens,
                        std::size_t& count, std::uint32_t& warnings) {
-  if (text.length == 0) return {Reason::kEmpty, -1, 0};
+  if (text.length == 0) return {Reason::kEmpty};
   TokenWriter writer(job, text, tokens);
   const Refusal refusal = writer.Write(warnings);
   count = writer.Count();

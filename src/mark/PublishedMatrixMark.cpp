@@ -12,7 +12,7 @@ namespace barhatch {
 
 namespace {
 
-constexpr Refusal kNoMemory = {Reason::kNoMemory, -1, 0};
+constexpr Refusal kNoMemory = {Reason::kNoMemory};
 
 SizeWish SizeWishOf(const BarhatchJob& job) {
   return {job.rows, job.columns, ShapeOf(job), (job.flags & BARHATCH_MAY_GROW) != 0};

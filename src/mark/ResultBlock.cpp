@@ -128,7 +128,7 @@ Refusal FinishBlock(const BarhatchJob& job, const MarkedSymbol& symbol, Deviatio
   }
   std::size_t bytes = 0;
   void* const block = parts.Sum(bytes) ? symbol.memory.Allocate(bytes) : nullptr;
-  if (block == nullptr) return {Reason::kNoMemory, -1, 0};
+  if (block == nullptr) return {Reason::kNoMemory};
   const BlockHead head = {symbol.memory.release, symbol.memory.context};
   std::memcpy(block, &head, sizeof head);
   result.block = block;
@@ -151,7 +151,7 @@ Refusal FinishResult(const BarhatchJob& job, const MarkedSymbol& symbol, Deviati
 
   const Extents extents = ExtentsOf(job, symbol);
   DescribeExtents(job, symbol, extents, result);
-  if (!IsMarkable(result)) return {Reason::kGeometry, -1, 0};
+  if (!IsMarkable(result)) return {Reason::kGeometry};
   const bool hasStrokes = symbol.letters != nullptr && Wants(job, BARHATCH_WANT_STROKES);
   if (!hasStrokes) return FinishBlock(job, symbol, met, nullptr, result);
   MarkStrokes strokes(job, symbol, extents);
