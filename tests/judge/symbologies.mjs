@@ -39,22 +39,31 @@ const codabarNames = (text) => {
 
 const plain = (bcid, options = {}) => (text) => ({ bcid, text, options: { binarytext: true, ...options } });
 
-// digits: of the main symbol without its check digit; read: what readers make of them.
+// The text as numbers of the main symbol and of the add-on, which a sign may part; of a symbology
+// with add-on the last digits are the add-on's.
+function partsOf(text, addOn) {
+  const sign = text.indexOf('+');
+  const main = sign >= 0 ? sign : Math.max(text.length - addOn, 0);
+  return { main: text.slice(0, main), extra: text.slice(sign >= 0 ? main + 1 : main) };
+}
+
+// digits: of the main symbol without its check digit; read: what readers make of the main digits.
 function eanUpc({ number, name, bcid, digits, addOn = 0, format, read, first = DIGITS, zbar = format }) {
-  const split = (text) => [text.slice(0, digits), text.slice(digits)];
   const draw = (text, job) => {
-    const [main, extra] = split(text);
-    const options = { binarytext: true, addongap: ADDON_GAP };
-    if (addOn > 0 && text.length !== digits + addOn) return null;  // it would draw one with another add-on
+    const { main, extra } = partsOf(text, addOn);
+    if (addOn > 0 && extra.length !== addOn) return null;  // it would draw one with another add-on
+    const options = { binarytext: true, addongap: job.addon_gap || ADDON_GAP };
     if ((job.flags & PERMIT) !== 0 && bcid === 'ean8') options.permitaddon = true;
-    return { bcid, text: addOn > 0 ? `${main} ${extra}` : text, options };
+    const withSystem = bcid === 'upce' && main.length === 6 ? `0${main}` : main;
+    return { bcid, text: extra !== '' || text.includes('+') ? `${withSystem} ${extra}` : withSystem, options };
   };
   return {
     number, name, draw, isEanUpc: true, digits, addOn, format, zbar,
+    hasAddOn: (text) => partsOf(text, addOn).extra !== '',
     text: (texts) => texts.of(first, 1) + texts.of(DIGITS, digits - 1 + addOn),
     alphabet: DIGITS,
-    said: (text) => ({ bytes: read(split(text)[0]) + split(text)[1] }),
-    saidByZbar: (text) => ({ bytes: read(split(text)[0]) }),
+    said: (text) => ({ bytes: read(partsOf(text, addOn).main) + partsOf(text, addOn).extra }),
+    saidByZbar: (text) => ({ bytes: read(partsOf(text, addOn).main) }),
   };
 }
 
@@ -66,9 +75,12 @@ function ofText({ number, name, draw, alphabet, twoWidths = false, format, zbar 
   };
 }
 
-const ean13 = (main) => withCheck(main);
-const upcA = (main) => '0' + withCheck(main);
-const upcE = (main) => '0' + withCheck(expandUpcE(main));
+const first = (digits) => (main) => withCheck(main.slice(0, digits));
+const upcA = (main) => '0' + first(11)(main);
+function upcE(main) {
+  if (main.length > 8) return upcA(main);
+  return '0' + withCheck(expandUpcE(main.length === 6 ? `0${main}` : main));
+}
 
 export const SYMBOLOGIES = [
   ofText({ number: 0, name: 'Codabar', draw: (text) => plain('rationalizedCodabar')(codabarNames(text)),
@@ -81,12 +93,12 @@ export const SYMBOLOGIES = [
   ofText({ number: 11, name: 'Code 11', draw: plain('code11', { includecheck: true }), alphabet: `${DIGITS}-`, twoWidths: true }),
   ofText({ number: 21, name: 'Interleaved 2 of 5', draw: plain('interleaved2of5'), alphabet: DIGITS, twoWidths: true,
            format: 'ITF', zbar: 'I25', said: (text) => (text.length % 2 === 0 ? text : `0${text}`) }),
-  eanUpc({ number: 3, name: 'EAN-13', bcid: 'ean13', digits: 12, format: 'EAN13', read: ean13 }),
-  eanUpc({ number: 15, name: 'EAN-13 + 2', bcid: 'ean13', digits: 12, addOn: 2, format: 'EAN13', read: ean13 }),
-  eanUpc({ number: 16, name: 'EAN-13 + 5', bcid: 'ean13', digits: 12, addOn: 5, format: 'EAN13', read: ean13 }),
-  eanUpc({ number: 12, name: 'EAN-8', bcid: 'ean8', digits: 7, format: 'EAN8', read: withCheck }),
-  eanUpc({ number: 17, name: 'EAN-8 + 2', bcid: 'ean8', digits: 7, addOn: 2, format: 'EAN8', read: withCheck }),
-  eanUpc({ number: 18, name: 'EAN-8 + 5', bcid: 'ean8', digits: 7, addOn: 5, format: 'EAN8', read: withCheck }),
+  eanUpc({ number: 3, name: 'EAN-13', bcid: 'ean13', digits: 12, format: 'EAN13', read: first(12) }),
+  eanUpc({ number: 15, name: 'EAN-13 + 2', bcid: 'ean13', digits: 12, addOn: 2, format: 'EAN13', read: first(12) }),
+  eanUpc({ number: 16, name: 'EAN-13 + 5', bcid: 'ean13', digits: 12, addOn: 5, format: 'EAN13', read: first(12) }),
+  eanUpc({ number: 12, name: 'EAN-8', bcid: 'ean8', digits: 7, format: 'EAN8', read: first(7) }),
+  eanUpc({ number: 17, name: 'EAN-8 + 2', bcid: 'ean8', digits: 7, addOn: 2, format: 'EAN8', read: first(7) }),
+  eanUpc({ number: 18, name: 'EAN-8 + 5', bcid: 'ean8', digits: 7, addOn: 5, format: 'EAN8', read: first(7) }),
   eanUpc({ number: 9, name: 'UPC-A', bcid: 'upca', digits: 11, format: 'EAN13', read: upcA }),
   eanUpc({ number: 13, name: 'UPC-A + 2', bcid: 'upca', digits: 11, addOn: 2, format: 'EAN13', read: upcA }),
   eanUpc({ number: 14, name: 'UPC-A + 5', bcid: 'upca', digits: 11, addOn: 5, format: 'EAN13', read: upcA }),
