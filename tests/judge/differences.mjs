@@ -1,5 +1,6 @@
 // Differences between a judge and the library that are right, each with its reason. when: of a case
 // (job, text, answer), its text as characters and the difference (ours, theirs).
+import { CHECK, checkDigit, modulo10, modulo43, spellOut } from './checks.mjs';
 import { isCode128, isSuppressed, PERMIT, ROW } from './symbologies.mjs';
 
 const DATA_CHARACTERS = 250;  // more than zbar has room for
@@ -11,6 +12,16 @@ const isEmpty = ({ text, theirs }) => text === '' && theirs === 'a symbol';
 const hex = (text) => Buffer.from(text, 'latin1').toString('hex');
 const lowBits = (text) => Buffer.from(text, 'latin1').map((byte) => byte & 127).toString('hex');
 
+function drawnOf39Full(text, { check }) {
+  if (check === CHECK.MOD_43) return spellOut(text) + modulo43(spellOut(text));
+  return check === CHECK.VERIFY ? spellOut(text.slice(0, -1)) + text.at(-1) : spellOut(text);
+}
+
+function hasWrongCheck({ job, text }) {
+  const right = { 4: modulo10, 21: checkDigit }[job.symbology];
+  return right !== undefined && right(text.slice(0, -1)) !== text.at(-1);
+}
+
 // What the judge doubles as one number: every second digit of MSI from the last on.
 const doubled = (text) => Number([...text].reverse().filter((_, index) => index % 2 === 0).reverse().join(''));
 
@@ -18,6 +29,7 @@ const doubled = (text) => Number([...text].reverse().filter((_, index) => index 
 const EMPTY = 3;
 const BAD_CHARACTER = 4;
 const BAD_LENGTH = 5;
+const BAD_CHECK = 6;
 const BAD_SYNTAX = 7;
 const NOT_STANDARD = 12;
 
@@ -27,7 +39,15 @@ export const LINEAR_DIFFERENCES = [
   { judge: 'bwip-js', what: 'Codabar of start and stop alone', why: 'it draws a symbol without data; the library refuses it',
     when: (one) => one.job.symbology === 0 && one.text.length === 2 && isRefusedAs(one, BAD_LENGTH) },
   { judge: 'bwip-js', what: 'Code 11 of ten characters', why: 'it writes C and K from ten characters on; K begins above ten',
-    when: ({ job, text }) => job.symbology === 11 && text.length === 10 },
+    when: ({ job, text }) => job.symbology === 11 && text.length === 10 && (job.check ?? CHECK.OWN) === CHECK.OWN },
+  { judge: 'bwip-js', what: 'Code 11 of ten characters and their C', why: 'likewise: it refuses eleven characters',
+    when: ({ job, text, answer }) => job.symbology === 11 && job.check === CHECK.VERIFY && text.length === 11 && answer.status === 0 },
+  { judge: 'bwip-js', what: 'Code 39, full ASCII, with a check character that is spelled out', why: 'it spells out the one that the text brings too',
+    when: ({ job, text }) => job.symbology === 102 && job.check === CHECK.VERIFY && !/[0-9A-Z. -]$/.test(text) },
+  { judge: 'bwip-js', what: 'Interleaved 2 of 5 and MSI with a wrong check digit', why: 'it does not test the one that the text brings',
+    when: (one) => one.job.check === CHECK.VERIFY && hasWrongCheck(one) && isRefusedAs(one, BAD_CHECK) },
+  { judge: 'bwip-js', what: 'Interleaved 2 of 5 and MSI of a check digit alone', why: 'it does not test the one that the text brings',
+    when: (one) => one.job.check === CHECK.VERIFY && one.text.length === 1 && isRefusedAs(one, BAD_LENGTH) },
   { judge: 'bwip-js', what: 'MSI of many digits', why: 'its check digit comes from a number of 32 bits, which every second digit of the text overflows',
     when: ({ job, text, answer }) => job.symbology === 4 && answer.status === 0 && doubled(text) * 2 >= 2 ** 31 },
   { judge: 'bwip-js', what: 'UPC-A of seven digits', why: 'it takes the digits of a UPC-E and draws the UPC-A',
@@ -59,6 +79,8 @@ export const LINEAR_DIFFERENCES = [
     when: (one) => one.job.symbology === 7 && isRefusedAs(one, BAD_CHARACTER) && /[^\x20-\x7f]/.test(one.text) },
   { judge: 'zxing', what: 'Codabar of one character', why: 'it reads symbols of two and more',
     when: ({ job, text, theirs }) => job.symbology === 0 && text.length === 3 && theirs === 'nothing' },
+  { judge: 'zxing', what: 'Code 39, full ASCII', why: 'where it does not take it for full ASCII it reports the characters as they are drawn',
+    when: ({ job, text, theirs }) => job.symbology === 102 && theirs === hex(drawnOf39Full(text, job)) },
   { judge: 'zxing', what: 'Interleaved 2 of 5 of two digits', why: 'too few to be told from chance',
     when: ({ job, text, theirs }) => job.symbology === 21 && text.length <= 2 && theirs === 'nothing' },
   { judge: 'zxing', what: 'add-ons behind 11 or 12 light modules', why: 'it looks no farther',

@@ -1,10 +1,11 @@
 // What the linear symbologies are judged on, and by whom. A case is { suite, name, job, text }, the
 // name that of its row in the table of results; without picture in its job the readers are not asked.
 import { judge as judgeByBwip } from './bwip.mjs';
+import { CHECK, checkDigit, code11, modulo10, modulo16, modulo43, spellOut } from './checks.mjs';
 import { LINEAR_DIFFERENCES } from './differences.mjs';
 import { pictureOf } from './marks.mjs';
 import { judgeByZbar, judgeByZxing } from './readers.mjs';
-import { isCode128, PERMIT, ROW, SYMBOLOGIES } from './symbologies.mjs';
+import { ADD_START_STOP, isCode128, PERMIT, ROW, SYMBOLOGIES } from './symbologies.mjs';
 import { bytes, CAPITALS, DIGITS, SMALL, Texts } from './texts.mjs';
 
 const BYTES = 1;
@@ -91,6 +92,42 @@ function* formsOfEanUpc(row, texts, count) {
   }
 }
 
+// The text with the check characters of the usual scheme.
+const CHECKED = {
+  0: (text) => text.slice(0, -1) + modulo16(text) + text.at(-1),
+  1: (text) => text + modulo43(text),
+  102: (text) => text + modulo43(spellOut(text)),
+  4: (text) => text + modulo10(text),
+  11: (text) => text + code11(text),
+  21: (text) => text + checkDigit(text),
+};
+
+// Every scheme; of texts that bring their check character every fourth with another one.
+function* schemes(row, texts, count) {
+  for (const check of row.checks ?? []) {
+    for (let i = 0; i < count; ++i) {
+      let text = texts.between(row.alphabet, 1, row.usual ?? 25);
+      const job = { ...markOf(row.number, i), check };
+      if (row.number === 0 && i % 3 === 0) job.flags |= ADD_START_STOP;
+      else if (row.number === 0) text = `${texts.pick('ABCD')}${text}${texts.pick('ABCD')}`;
+      if (check === CHECK.VERIFY) {
+        const framed = row.number === 0 && i % 3 === 0 ? `A${text}A` : text;
+        text = i % 4 === 0 ? text : CHECKED[row.number](framed);
+      }
+      yield { suite: 'schemes', job, text };
+    }
+  }
+}
+
+// 13 and 14 digits, with right and wrong check digits.
+function* itf14(texts, count) {
+  for (let i = 0; i < count; ++i) {
+    const digits = texts.of(DIGITS, 13);
+    const text = [digits, digits + checkDigit(digits), digits + texts.pick(DIGITS)][i % 3];
+    yield { suite: 'schemes', job: markOf(101, i), text };
+  }
+}
+
 // Texts of docs/deviations.md: what the device writes otherwise.
 const REGISTER = {
   0: ['1234', 'A1234', '1234B', 'AB', 'A', 'T1*', 'N1E', '*1N', 'E1T', 'A1B2C', ''],
@@ -114,7 +151,7 @@ const REGISTER = {
 };
 
 function* ofTheRegister(row) {
-  for (const text of REGISTER[row.number]) {
+  for (const text of REGISTER[row.number] ?? []) {
     for (const flags of [0, PERMIT]) {
       yield { suite: 'register', job: { ...markOf(row.number, 1), flags }, text };
     }
@@ -135,8 +172,10 @@ function cases(share) {
     const texts = new Texts(1000 + row.number);
     found.push(...random(row, texts, Math.ceil(1000 * share)), ...everyCharacter(row, texts));
     found.push(...everyLength(row, texts), ...ofTheRegister(row));
+    found.push(...schemes(row, texts, Math.ceil(200 * share)));
     found.push(...formsOfEanUpc(row, texts, Math.ceil(500 * share)));
   }
+  found.push(...itf14(new Texts(14), Math.ceil(400 * share)));
   found.push(...lengthsOfCode128(new Texts(128), Math.ceil(10000 * share)));
   return found.map((one) => ({ ...one, name: ROW[one.job.symbology].name, text: latin1(one.text) }));
 }

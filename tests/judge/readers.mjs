@@ -52,8 +52,8 @@ function compare(found, expected) {
 export async function judgeByZxing({ job, text }, picture) {
   const row = ROW[job.symbology];
   const characters = text.toString('latin1');
-  const addOn = row.hasAddOn?.(characters) ? { eanAddOnSymbol: 'Require' } : {};
-  return compare(await zxing(picture, [row.format], addOn), row.said(characters, job));
+  const options = row.hasAddOn?.(characters) ? { eanAddOnSymbol: 'Require' } : {};
+  return compare(await zxing(picture, [row.format], options), row.said(characters, job));
 }
 
 export async function judgeByZbar({ job, text }, picture) {

@@ -1,17 +1,13 @@
 // The linear symbologies as the judges know them: by what name a generator draws them, in what
 // format a reader finds them, and what it has to say of a text.
+import { CHECK, checkDigit, modulo16, modulo43, spellOut } from './checks.mjs';
 import { bytes, CAPITALS, DIGITS } from './texts.mjs';
 
 export const PERMIT = 32;
+export const ADD_START_STOP = 512;
 const NATIVE_39 = `${DIGITS}${CAPITALS}-. $/+%`;
 const ADDON_GAP = 9;
 
-// Modulo 10 of the GS1 General Specifications: weights 3, 1 from the right.
-export function checkDigit(digits) {
-  let sum = 0;
-  for (let i = 0; i < digits.length; ++i) sum += Number(digits.at(-1 - i)) * (i % 2 === 0 ? 3 : 1);
-  return String((10 - (sum % 10)) % 10);
-}
 const withCheck = (digits) => digits + checkDigit(digits);
 
 // The UPC-A number, without its check digit, that number system and six digits of UPC-E stand for.
@@ -37,7 +33,46 @@ const codabarNames = (text) => {
   return text.length < 2 ? text : name(text[0]) + text.slice(1, -1) + name(text.at(-1));
 };
 
-const plain = (bcid, options = {}) => (text) => ({ bcid, text, options: { binarytext: true, ...options } });
+// The generator's options for the schemes of check characters that it knows, by job.check.
+const plain = (bcid, schemes = {}) => (text, job) => {
+  const scheme = schemes[job.check ?? CHECK.OWN];
+  return scheme === undefined && job.check ? null : { bcid, text, options: { binarytext: true, ...scheme } };
+};
+const INCLUDE = { includecheck: true };
+const VALIDATE = { validatecheck: true };
+const ofModulo = (checktype) => ({ includecheck: true, checktype });
+const MSI_SCHEMES = {
+  [CHECK.OWN]: INCLUDE, [CHECK.NONE]: {}, [CHECK.VERIFY]: VALIDATE, [CHECK.MSI_10]: ofModulo('mod10'),
+  [CHECK.MSI_10_10]: ofModulo('mod1010'), [CHECK.MSI_11]: ofModulo('mod11'), [CHECK.MSI_11_10]: ofModulo('mod1110'),
+  [CHECK.MSI_NCR_11]: ofModulo('ncrmod11'), [CHECK.MSI_NCR_11_10]: ofModulo('ncrmod1110'),
+};
+
+// It has C below ten characters and C and K from there on, whatever is asked for.
+function drawCode11(text, job) {
+  const schemes = { [CHECK.OWN]: INCLUDE, [CHECK.NONE]: {}, [CHECK.VERIFY]: VALIDATE };
+  if (text.length < 10) schemes[CHECK.CODE_11_C] = INCLUDE;
+  if (text.length >= 10) schemes[CHECK.CODE_11_CK] = INCLUDE;
+  return plain('code11', schemes)(text, job);
+}
+
+// A on both sides of a text that has no start and stop, where that is asked for.
+function framed(text, job) {
+  const isBare = !/^[ABCDTN*E]/.test(text) && !/[ABCDTN*E]$/.test(text);
+  return (job.flags & ADD_START_STOP) !== 0 && isBare ? `A${text}A` : text;
+}
+const drawCodabar = (text, job) => plain('rationalizedCodabar', {
+  [CHECK.NONE]: {}, [CHECK.MOD_16]: INCLUDE, [CHECK.VERIFY]: VALIDATE,
+})(codabarNames(framed(text, job)), job);
+
+const saidOfCodabar = (text, job) => {
+  const drawn = codabarNames(framed(text, job));
+  return job.check === CHECK.MOD_16 ? drawn.slice(0, -1) + modulo16(drawn) + drawn.at(-1) : drawn;
+};
+const saidOf39Full = (text, job) => (job.check === CHECK.MOD_43 ? text + modulo43(spellOut(text)) : text);
+const saidOf2of5 = (text, job) => {
+  const digits = job.check === CHECK.ITF_10 ? withCheck(text) : text;
+  return digits.length % 2 === 0 ? digits : `0${digits}`;
+};
 
 // The text as numbers of the main symbol and of the add-on, which a sign may part; of a symbology
 // with add-on the last digits are the add-on's.
@@ -67,12 +102,10 @@ function eanUpc({ number, name, bcid, digits, addOn = 0, format, read, first = D
   };
 }
 
-function ofText({ number, name, draw, alphabet, twoWidths = false, format, zbar = format, said = (text) => text, wrap, usual }) {
-  return {
-    number, name, draw, alphabet, twoWidths, format, zbar, usual, wrap: wrap ?? ((text) => text),
-    said: (text) => ({ bytes: said(text) }),
-    saidByZbar: (text) => ({ bytes: said(text) }),
-  };
+// said: what readers make of a text; checks: the schemes that may be asked for; usual: the longest of random texts.
+function ofText({ said = (text) => text, wrap = (text) => text, zbar = undefined, format, ...row }) {
+  const saying = (text, job) => ({ bytes: said(text, job) });
+  return { ...row, wrap, format, zbar: zbar === undefined ? format : zbar, said: saying, saidByZbar: saying };
 }
 
 const first = (digits) => (main) => withCheck(main.slice(0, digits));
@@ -83,16 +116,27 @@ function upcE(main) {
 }
 
 export const SYMBOLOGIES = [
-  ofText({ number: 0, name: 'Codabar', draw: (text) => plain('rationalizedCodabar')(codabarNames(text)),
-           alphabet: `${DIGITS}-$:/.+`, twoWidths: true, format: 'Codabar', said: codabarNames,
+  ofText({ number: 0, name: 'Codabar', draw: drawCodabar, alphabet: `${DIGITS}-$:/.+`, twoWidths: true, format: 'Codabar',
+           checks: [CHECK.NONE, CHECK.MOD_16, CHECK.VERIFY], said: saidOfCodabar,
            wrap: (text, texts) => texts.pick('ABCDTN*E') + text + texts.pick('ABCDTN*E') }),
-  ofText({ number: 1, name: 'Code 39', draw: plain('code39'), alphabet: NATIVE_39, twoWidths: true, format: 'Code39Std', zbar: 'Code39' }),
-  ofText({ number: 2, name: 'Code 93', draw: plain('code93', { includecheck: true }), alphabet: NATIVE_39, format: 'Code93' }),
-  ofText({ number: 22, name: 'Code 93, full ASCII', draw: plain('code93ext', { includecheck: true }), alphabet: bytes(0, 127), format: 'Code93' }),
-  ofText({ number: 4, name: 'MSI', draw: plain('msi', { includecheck: true }), alphabet: DIGITS, usual: 18 }),
-  ofText({ number: 11, name: 'Code 11', draw: plain('code11', { includecheck: true }), alphabet: `${DIGITS}-`, twoWidths: true }),
-  ofText({ number: 21, name: 'Interleaved 2 of 5', draw: plain('interleaved2of5'), alphabet: DIGITS, twoWidths: true,
-           format: 'ITF', zbar: 'I25', said: (text) => (text.length % 2 === 0 ? text : `0${text}`) }),
+  ofText({ number: 1, name: 'Code 39', draw: plain('code39', { [CHECK.NONE]: {}, [CHECK.MOD_43]: INCLUDE, [CHECK.VERIFY]: VALIDATE }),
+           alphabet: NATIVE_39, twoWidths: true, format: 'Code39Std', zbar: 'Code39', checks: [CHECK.NONE, CHECK.MOD_43, CHECK.VERIFY],
+           said: (text, job) => (job.check === CHECK.MOD_43 ? text + modulo43(text) : text) }),
+  ofText({ number: 102, name: 'Code 39, full ASCII', draw: plain('code39ext', { [CHECK.NONE]: {}, [CHECK.MOD_43]: INCLUDE, [CHECK.VERIFY]: VALIDATE }),
+           alphabet: bytes(0, 127), twoWidths: true, format: 'Code39', zbar: null, checks: [CHECK.NONE, CHECK.MOD_43, CHECK.VERIFY],
+           said: saidOf39Full }),
+  ofText({ number: 2, name: 'Code 93', draw: plain('code93', { [CHECK.OWN]: INCLUDE }), alphabet: NATIVE_39, format: 'Code93' }),
+  ofText({ number: 22, name: 'Code 93, full ASCII', draw: plain('code93ext', { [CHECK.OWN]: INCLUDE }), alphabet: bytes(0, 127),
+           format: 'Code93' }),
+  ofText({ number: 4, name: 'MSI', draw: plain('msi', MSI_SCHEMES), alphabet: DIGITS, usual: 16,
+           checks: Object.keys(MSI_SCHEMES).map(Number).filter((check) => check !== CHECK.OWN) }),
+  ofText({ number: 11, name: 'Code 11', draw: drawCode11, alphabet: `${DIGITS}-`, twoWidths: true,
+           checks: [CHECK.NONE, CHECK.VERIFY, CHECK.CODE_11_C, CHECK.CODE_11_CK] }),
+  ofText({ number: 21, name: 'Interleaved 2 of 5', alphabet: DIGITS, twoWidths: true, format: 'ITF', zbar: 'I25', said: saidOf2of5,
+           draw: plain('interleaved2of5', { [CHECK.NONE]: {}, [CHECK.ITF_10]: INCLUDE, [CHECK.VERIFY]: VALIDATE }),
+           checks: [CHECK.NONE, CHECK.ITF_10, CHECK.VERIFY] }),
+  ofText({ number: 101, name: 'ITF-14', alphabet: DIGITS, twoWidths: true, format: 'ITF', zbar: 'I25', said: (text) => first(13)(text),
+           draw: plain('itf14'), usual: 14 }),
   eanUpc({ number: 3, name: 'EAN-13', bcid: 'ean13', digits: 12, format: 'EAN13', read: first(12) }),
   eanUpc({ number: 15, name: 'EAN-13 + 2', bcid: 'ean13', digits: 12, addOn: 2, format: 'EAN13', read: first(12) }),
   eanUpc({ number: 16, name: 'EAN-13 + 5', bcid: 'ean13', digits: 12, addOn: 5, format: 'EAN13', read: first(12) }),
@@ -105,10 +149,10 @@ export const SYMBOLOGIES = [
   eanUpc({ number: 10, name: 'UPC-E', bcid: 'upce', digits: 7, first: '01', format: 'UPCE', zbar: 'EAN13', read: upcE }),
   eanUpc({ number: 19, name: 'UPC-E + 2', bcid: 'upce', digits: 7, addOn: 2, first: '01', format: 'UPCE', zbar: 'EAN13', read: upcE }),
   eanUpc({ number: 20, name: 'UPC-E + 5', bcid: 'upce', digits: 7, addOn: 5, first: '01', format: 'UPCE', zbar: 'EAN13', read: upcE }),
-  ofText({ number: 5, name: 'Code 128', draw: plain('code128', { newencoder: true }), alphabet: bytes(0, 255), format: 'Code128' }),
-  ofText({ number: 6, name: 'Code 128 from set A', draw: plain('code128', { newencoder: true }), alphabet: bytes(0, 255), format: 'Code128' }),
-  ofText({ number: 7, name: 'Code 128 set B', draw: plain('code128', { newencoder: true }), alphabet: bytes(32, 127), format: 'Code128' }),
-  ofText({ number: 8, name: 'Code 128 from set C', draw: plain('code128', { newencoder: true }), alphabet: bytes(0, 255), format: 'Code128' }),
+  ofText({ number: 5, name: 'Code 128', draw: plain('code128', { [CHECK.OWN]: { newencoder: true } }), alphabet: bytes(0, 255), format: 'Code128' }),
+  ofText({ number: 6, name: 'Code 128 from set A', draw: plain('code128', { [CHECK.OWN]: { newencoder: true } }), alphabet: bytes(0, 255), format: 'Code128' }),
+  ofText({ number: 7, name: 'Code 128 set B', draw: plain('code128', { [CHECK.OWN]: { newencoder: true } }), alphabet: bytes(32, 127), format: 'Code128' }),
+  ofText({ number: 8, name: 'Code 128 from set C', draw: plain('code128', { [CHECK.OWN]: { newencoder: true } }), alphabet: bytes(0, 255), format: 'Code128' }),
 ];
 export const ROW = Object.fromEntries(SYMBOLOGIES.map((row) => [row.number, row]));
 export const isCode128 = (number) => number >= 5 && number <= 8;
