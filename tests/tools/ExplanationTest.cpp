@@ -11,7 +11,7 @@ namespace {
 
 Request RequestOf(std::int32_t symbology, const std::string& text, bool device = false) {
   Request request;
-  request.symbology = symbology;
+  request.job.symbology = symbology;
   request.text = text;
   request.device = device;
   return request;
@@ -48,7 +48,7 @@ TEST(Explanation, ARefusalHasStatusPlaceAndSentence) {
             "  character 3 (0x63 'c') is not in Code 39: digits, A-Z, - . $ / + % and space\n");
   EXPECT_EQ(Explained(RequestOf(BARHATCH_EAN_13, "123")),
             "ean13 \"123\", by the book: refused (status 5)\n"
-            "  EAN-13 takes 12 digits, 3 given\n");
+            "  EAN-13 takes 12 or 13 digits (and an add-on behind +), 3 given\n");
   EXPECT_EQ(Explained(RequestOf(BARHATCH_CODE_39, "")),
             "code39 \"\", by the book: refused (status 3)\n"
             "  Code 39 needs at least one character\n");
@@ -94,7 +94,7 @@ TEST(Explanation, WhatTheLibraryCannotWriteByTheBookIsTheDevices) {
 TEST(Explanation, PermitTakesWhatTheStandardLeavesOut) {
   Request request = RequestOf(BARHATCH_UPC_E, "1425261");
   EXPECT_NE(Explained(request).find("refused (status 12)"), std::string::npos);
-  request.permit = true;
+  request.job.flags |= BARHATCH_PERMIT;
   EXPECT_NE(Explained(request).find("accepted"), std::string::npos);
 }
 
