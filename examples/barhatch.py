@@ -60,6 +60,14 @@ class Input(IntEnum):
     CODEWORDS = 5
 
 
+class Envelope(IntEnum):
+    NONE = 0
+    FORMAT_05 = 5
+    FORMAT_06 = 6
+    FORMAT_12 = 12
+    FORMAT_DD = 100
+
+
 class Check(IntEnum):
     OWN = 0
     NONE = 1
@@ -82,6 +90,7 @@ class Shape(IntEnum):
     RECTANGLE = 1
     ANY_SHAPE = 2
     DMRE = 4
+    DMRE_RECTANGLE = 5
 
 
 class Flag(IntFlag):
@@ -177,7 +186,8 @@ class BarhatchJob(Structure):
                 ("growth_x", c_double), ("growth_y", c_double), ("dot", c_double), ("mark_speed", c_double),
                 ("jump_speed", c_double), ("stroke_delay", c_double), ("jump_delay", c_double), ("radius", c_double),
                 ("tolerance", c_double), ("allocate", c_void_p), ("release", c_void_p), ("context", c_void_p),
-                ("reserved", c_void_p)]
+                ("reserved", c_void_p), ("part", c_int32), ("parts", c_int32), ("part_id", c_int32),
+                ("part_reserved", c_int32)]
 
 
 class BarhatchResult(Structure):
@@ -214,7 +224,7 @@ class Job:
     symbology: Symbology = Symbology.CODABAR
     text: Union[str, bytes] = ""  # bytes: each one is a character
     conformance: Conformance = Conformance.PUBLISHED
-    envelope: int = 0             # ISO/IEC 15434 around a Data Matrix: 0, 5 or 6
+    envelope: Envelope = Envelope.NONE  # ISO/IEC 15434 around a Data Matrix
     check: Check = Check.OWN
     eci: int = 0
     rows: int = 0                 # of a Data Matrix; 0 x 0 is the smallest
@@ -246,6 +256,9 @@ class Job:
     jump_delay: float = 0.0
     radius: float = 0.0
     tolerance: float = 0.0
+    part: int = 0                 # which of several Data Matrix symbols, 1 to parts
+    parts: int = 0                # 2 to 16; 0: one symbol alone
+    part_id: int = 0              # the same in all of them
 
     def record(self):
         fields = {name: getattr(self, name) for name in self.__dataclass_fields__ if name != "text"}

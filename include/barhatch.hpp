@@ -92,7 +92,7 @@ struct Job {
   Text text;                                          // what it says
   Envelope envelope = Envelope::kNone;                // around the text of a Data Matrix
   Check check = Check::kOwn;                          // characters that the library adds
-  std::int32_t eci = 0;                               // 0 in this version
+  std::int32_t eci = 0;                               // of a Data Matrix; 0: as its text needs
   std::int32_t rows = 0;                              // of a Data Matrix; 0 x 0: the smallest
   std::int32_t columns = 0;                           // of a Data Matrix
   Shape shape = Shape::kSquare;                       // of a Data Matrix of 0 x 0
@@ -122,6 +122,9 @@ struct Job {
   double jumpDelay = 0.0;          // seconds for each jump
   double radius = 0.0;             // 0 in this version
   double tolerance = 0.0;          // 0 in this version
+  std::int32_t part = 0;           // which of several Data Matrix symbols, 1 to parts
+  std::int32_t parts = 0;          // of a message, 2 to 16; 0: one symbol alone
+  std::int32_t partId = 0;         // the same in all of them
   HostMemory memory;               // of the result
 };
 
@@ -439,6 +442,9 @@ inline BarhatchJob RecordOf(const Job& job) noexcept {
   record.jump_delay = job.jumpDelay;
   record.radius = job.radius;
   record.tolerance = job.tolerance;
+  record.part = job.part;
+  record.parts = job.parts;
+  record.part_id = job.partId;
   record.allocate = job.memory.allocate;
   record.release = job.memory.release;
   record.context = job.memory.context;

@@ -27,8 +27,8 @@
  *
  * conformance says by what rules a mark is made. BARHATCH_PUBLISHED writes what the published standard of a symbology says
  * and refuses the rest. BARHATCH_DEVICE writes what the exports of barhatch.h write, every known deviation included; the
- * result names the deviations that a mark has met. This version makes published marks of all linear symbologies, and
- * device marks of all 23 types and Data Matrix.
+ * result names the deviations that a mark has met. This version makes both of all 23 types
+ * and Data Matrix.
  *
  * The records grow at their end in later versions: fields are never moved, numbers never used again. A record smaller than
  * the first version's is refused; of a larger job the bytes that this version does not know must be zero.
@@ -92,7 +92,7 @@ enum BarhatchInput {
   BARHATCH_GS1 = 2,       /* element strings; not in this version */
   BARHATCH_ESCAPED = 3,   /* UTF-8 with escapes: ^000 to ^255 a byte, ^FNC1 to ^FNC3, ^ECI000026, ^^ the caret */
   BARHATCH_UNITS = 4,     /* 16-bit units, as barhatch.h takes them; length counts units */
-  BARHATCH_CODEWORDS = 5  /* not in this version */
+  BARHATCH_CODEWORDS = 5  /* bytes, data codewords of a Data Matrix: pads, error correction and placement are added */
 };
 
 /* job.check, of marks by the book: which check characters a symbol has. Those of the usual scheme are modulo 43 of
@@ -117,28 +117,42 @@ enum BarhatchCheck {
   BARHATCH_CODE_11_CK = 13     /* C and K, whatever the length */
 };
 
+/* job.envelope: the message of ISO/IEC 15434 that the text of a Data Matrix is */
+enum BarhatchEnvelope {
+  BARHATCH_ENVELOPE_NONE = 0, /* none */
+  BARHATCH_ENVELOPE_05 = 5,   /* format 05, application identifiers, as a macro header */
+  BARHATCH_ENVELOPE_06 = 6,   /* format 06, data identifiers, as a macro header */
+  BARHATCH_ENVELOPE_12 = 12,  /* format 12, text element identifiers, spelled out */
+  BARHATCH_ENVELOPE_DD = 100  /* format DD, spelled out */
+};
+
 /* job.shape, of a Data Matrix whose size is not asked for; device marks are square unless rows and columns say otherwise */
 enum BarhatchShape {
   BARHATCH_SQUARE = 0,    /* the smallest square */
-  BARHATCH_RECTANGLE = 1, /* not in this version */
-  BARHATCH_ANY_SHAPE = 2, /* not in this version */
-  BARHATCH_DMRE = 4       /* the rectangles of ISO/IEC 21471 as well; not in this version */
+  BARHATCH_RECTANGLE = 1, /* the rectangle of the smallest area */
+  BARHATCH_ANY_SHAPE = 2, /* the smallest area, then the squarer */
+  BARHATCH_DMRE = 4,      /* the smallest area, then the squarer, of the rectangles of ISO/IEC 21471 as well */
+  BARHATCH_DMRE_RECTANGLE = 5 /* likewise of rectangles alone */
 };
 
 /* job.flags */
 enum BarhatchFlag {
   BARHATCH_QUIET_INSIDE = 1,         /* width and height include the quiet zone, and the origin is its corner */
   BARHATCH_FNC1_SECOND = 2,          /* Data Matrix: FNC1 in second position */
-  BARHATCH_GS_SEPARATORS = 4,        /* not in this version */
-  BARHATCH_LOOSE_END = 8,            /* not in this version */
-  BARHATCH_INDUSTRY_144 = 16,        /* not in this version; device marks have that order */
+  BARHATCH_GS_SEPARATORS = 4,        /* Data Matrix: FNC1 that separates is written as GS */
+  BARHATCH_LOOSE_END = 8,            /* Data Matrix: the last codeword without an unlatch for what the standard leaves
+                                        out and readers take: a shifted character, a pair of digits */
+  BARHATCH_INDUSTRY_144 = 16,        /* Data Matrix: 144 x 144 in the industry's order; device marks have it */
   BARHATCH_PERMIT = 32,              /* write what readers know and the standard leaves out: UPC-E of number system 1,
                                         add-ons beside EAN-8 */
-  BARHATCH_NO_PROOF = 64,            /* no effect in this version */
+  BARHATCH_NO_PROOF = 64,            /* do not decode the finished symbol; see BARHATCH_PROOF_FAILED */
   BARHATCH_MAY_GROW = 128,           /* a Data Matrix may be larger than rows x columns */
-  BARHATCH_MASK = 256,               /* not in this version */
+  BARHATCH_MASK = 256,               /* Data Matrix: text stands for many, with # for a digit, A for a capital letter, ?
+                                        for any byte, and \# \A \? \\ for themselves. The result has rows, columns,
+                                        capacity, extents and, as codewords, what the longest of them takes; no modules,
+                                        values, reading or strokes. A job of that size marks every one */
   BARHATCH_ADD_START_STOP = 512,     /* Codabar: A on both sides of a text that has neither start nor stop */
-  BARHATCH_READER_PROGRAMMING = 1024 /* not in this version */
+  BARHATCH_READER_PROGRAMMING = 1024 /* Data Matrix: the text is for the reader's settings */
 };
 
 /* job.pattern: how the elements are filled */
@@ -178,9 +192,9 @@ typedef struct BarhatchJob {
   int32_t input;           /* BarhatchInput */
   const void* text;        /* bytes or units; null is the empty text where length is 0 */
   size_t length;           /* of text in bytes or units; 0: up to its first zero */
-  int32_t envelope;        /* ISO/IEC 15434 around a Data Matrix: 0 none, 5 and 6 as macro headers */
+  int32_t envelope;        /* BarhatchEnvelope, around the text of a Data Matrix; device marks have 0, 5 and 6 */
   int32_t check;           /* BarhatchCheck */
-  int32_t eci;             /* 0 in this version */
+  int32_t eci;             /* of a Data Matrix by the book: the ECI in front of the text; 0 none, or 26 where it needs it */
   int32_t rows;            /* of a Data Matrix; 0 x 0 is the smallest */
   int32_t columns;         /* of a Data Matrix */
   int32_t shape;           /* BarhatchShape */
@@ -214,6 +228,10 @@ typedef struct BarhatchJob {
   void (*release)(void* context, void* block);     /* of what allocate gave */
   void* context;           /* handed to both */
   void* reserved;          /* null */
+  int32_t part;            /* of a message in several Data Matrix symbols: which it is, 1 to parts */
+  int32_t parts;           /* how many they are, 2 to 16; 0: no structured append */
+  int32_t part_id;         /* 0 to 64515, the same in all symbols of the message */
+  int32_t part_reserved;   /* 0 */
 } BarhatchJob;
 
 /* result.status */
@@ -234,15 +252,16 @@ enum BarhatchStatus {
   BARHATCH_BAD_GEOMETRY = 13, /* sizes, gap or speeds that make no sense */
   BARHATCH_NOTHING_TO_MARK = 14, /* no stroke lies in any element */
   BARHATCH_NO_MEMORY = 15,    /* nothing is leaked */
-  BARHATCH_PROOF_FAILED = 16  /* not in this version */
+  BARHATCH_PROOF_FAILED = 16  /* the finished symbol does not decode to the text: a defect of the library */
 };
 
 /* result.warnings: bits; message has the sentence of the gravest one */
 enum BarhatchWarning {
   BARHATCH_W_LEADING_ZERO = 1,    /* an odd number of digits of Interleaved 2 of 5 got a 0 in front */
   BARHATCH_W_FEW_DIGITS = 2,      /* fewer than 6 digits of Interleaved 2 of 5: readers may not accept them */
-  BARHATCH_W_ECI = 4,             /* a character above 255 designates an ECI */
-  BARHATCH_W_144 = 8,             /* 144 x 144 in the order of the standard; not in this version */
+  BARHATCH_W_ECI = 4,             /* a character above 255 designates an ECI: 26, or on the device the character itself */
+  BARHATCH_W_144 = 8,             /* 144 x 144 in the order of the standard: readers that know the industry's alone
+                                     do not read it */
   BARHATCH_W_QUIET_ZONE = 16,     /* smaller than the standard's */
   BARHATCH_W_INVERTED = 32,       /* light elements are filled, but no quiet zone */
   BARHATCH_W_LOW_BYTE = 64,       /* of a character above 255 the low byte alone is written, as the device does */

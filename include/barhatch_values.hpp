@@ -50,9 +50,11 @@ enum class Conformance : std::int32_t {
 
 // What stands around the text of a Data Matrix.
 enum class Envelope : std::int32_t {
-  kNone = 0,      // nothing
-  kFormat05 = 5,  // ISO/IEC 15434 format 05, as macro header
-  kFormat06 = 6   // ISO/IEC 15434 format 06, as macro header
+  kNone = BARHATCH_ENVELOPE_NONE,    // nothing
+  kFormat05 = BARHATCH_ENVELOPE_05,  // ISO/IEC 15434 format 05, as macro header
+  kFormat06 = BARHATCH_ENVELOPE_06,  // ISO/IEC 15434 format 06, as macro header
+  kFormat12 = BARHATCH_ENVELOPE_12,  // ISO/IEC 15434 format 12, spelled out
+  kFormatDD = BARHATCH_ENVELOPE_DD   // ISO/IEC 15434 format DD, spelled out
 };
 
 // Which check characters are written.
@@ -75,25 +77,26 @@ enum class Check : std::int32_t {
 
 // Which sizes a Data Matrix is chosen from.
 enum class Shape : std::int32_t {
-  kSquare = BARHATCH_SQUARE,        // the smallest square
-  kRectangle = BARHATCH_RECTANGLE,  // not in this version
-  kAnyShape = BARHATCH_ANY_SHAPE,   // not in this version
-  kDmre = BARHATCH_DMRE             // not in this version
+  kSquare = BARHATCH_SQUARE,                // the smallest square
+  kRectangle = BARHATCH_RECTANGLE,          // the rectangle of the smallest area
+  kAnyShape = BARHATCH_ANY_SHAPE,           // the smallest area
+  kDmre = BARHATCH_DMRE,                    // likewise, with ISO/IEC 21471
+  kDmreRectangle = BARHATCH_DMRE_RECTANGLE  // rectangles alone, with ISO/IEC 21471
 };
 
 // Switches of a job.
 enum class Flag : std::uint32_t {
   kQuietInside = BARHATCH_QUIET_INSIDE,             // sizes and origin include the quiet zone
   kFnc1Second = BARHATCH_FNC1_SECOND,               // Data Matrix: FNC1 in second position
-  kGsSeparators = BARHATCH_GS_SEPARATORS,           // not in this version
-  kLooseEnd = BARHATCH_LOOSE_END,                   // not in this version
-  kIndustry144 = BARHATCH_INDUSTRY_144,             // not in this version
+  kGsSeparators = BARHATCH_GS_SEPARATORS,           // Data Matrix: FNC1 that separates as GS
+  kLooseEnd = BARHATCH_LOOSE_END,                   // Data Matrix: ends as readers take them
+  kIndustry144 = BARHATCH_INDUSTRY_144,             // 144 x 144 in the industry's order
   kPermit = BARHATCH_PERMIT,                        // write what readers know beside the standard
-  kNoProof = BARHATCH_NO_PROOF,                     // no effect in this version
+  kNoProof = BARHATCH_NO_PROOF,                     // the finished symbol is not decoded again
   kMayGrow = BARHATCH_MAY_GROW,                     // a Data Matrix beyond rows x columns
-  kMask = BARHATCH_MASK,                            // not in this version
+  kMask = BARHATCH_MASK,                            // Data Matrix: the size of many texts
   kAddStartStop = BARHATCH_ADD_START_STOP,          // Codabar: A on both sides where there is none
-  kReaderProgramming = BARHATCH_READER_PROGRAMMING  // not in this version
+  kReaderProgramming = BARHATCH_READER_PROGRAMMING  // Data Matrix: settings of the reader
 };
 
 // How the elements are filled.
@@ -142,7 +145,7 @@ enum class Status : std::int32_t {
   kBadGeometry = BARHATCH_BAD_GEOMETRY,       // sizes, gap or speeds that make no sense
   kNothingToMark = BARHATCH_NOTHING_TO_MARK,  // no stroke lies in any element
   kNoMemory = BARHATCH_NO_MEMORY,             // nothing is leaked
-  kProofFailed = BARHATCH_PROOF_FAILED        // not in this version
+  kProofFailed = BARHATCH_PROOF_FAILED        // a defect of the library: it marks something else
 };
 
 // What a host should know about a mark that was made.

@@ -45,9 +45,9 @@ class Library(barhatch.Library):
         return strokes
 
     def linear(self, text, symbology, quiet_zone=False, **fields):
-        """The mark of a linear symbol, without quiet zone or, with it, inside the width."""
-        around = {"flags": Flag.QUIET_INSIDE} if quiet_zone else {"quiet": -1}
-        return self.mark(symbology=symbology, conformance=Conformance.DEVICE, text=text, **around, **fields)
+        """The mark of a linear symbol by the book, without quiet zone or, with it, inside the width."""
+        around = {"flags": Flag.QUIET_INSIDE | Flag.PERMIT} if quiet_zone else {"quiet": -1}
+        return self.mark(symbology=symbology, text=text, **around, **fields)
 
     def matrix(self, text, **fields):
         """The mark of a Data Matrix without quiet zone."""

@@ -129,6 +129,18 @@ EQUIVALENT = (
     ("HatchGrid.cpp", "value < 0.0", "value <= 0.0", "-0.0 and 0.0 are equally far from everything"),
     ("HatchGrid.cpp", "> Magnitude(end)", ">= Magnitude(end)", "of two equal numbers either is the larger"),
     ("Code128Patterns.cpp", "i < 6", "i <= 6", "the NUL behind the six widths is no width"),
+    ("DeviationText.cpp", "i < kDeviationCount", "i <= kDeviationCount", "no mark meets what stands behind the last deviation"),
+    ("Extents.cpp", "wideSize < module", "wideSize <= module", "of two equal numbers either is the smaller"),
+    ("JobRecord.cpp", "value > 0.0;", "value >= 0.0;", "0 was let through above"),
+    ("JobRecord.cpp", "isNone = job.quiet < 0.0", "isNone = job.quiet <= 0.0", "0 asks for the standard's, which is never too small"),
+    *(("LinearMark.cpp", "(letters + 1)", f"(letters {other})", "a character has many letters, and a NUL takes one byte")
+      for other in ("- 1", "+ 0", "+ 2")),
+    *(("MatrixMark.cpp", before, after, "no codewords are read as more bytes than MostBytesRead says")
+      for before, after in (("room - 1", "room + 1"), ("room - 1", "room - 0"), ("dataCodewords) + 1", "dataCodewords) + 2"))),
+    *(("ResultBlock.cpp", before, after, "a machine of 32 bits alone has less room than the strokes of a mark may take")
+      for before, after in (("PTRDIFF_MAX) - bytes", "PTRDIFF_MAX) + bytes"), ("doubles > most", "doubles >= most"),
+                            ("most / sizeof", "most * sizeof"), ("return false;", "return true;"),
+                            ("(doubles > most / sizeof(double))", "(false)"))),
     ("Hatcher.cpp", "mostDoubles <= 0", "mostDoubles < 0", "a list of nothing makes no fill either"),
     ("LinePatterns.cpp", "strokes > kMostDoubles", "strokes >= kMostDoubles", "so many are refused with their coordinates"),
     ("SpiralPattern.cpp", "lower = lowEdge", "", "every bound is 0.0 from the start"),

@@ -13,6 +13,7 @@
 #include "Messages.h"
 #include "Outputs.h"
 #include "Progress.h"
+#include "SharedSize.h"
 #include "Symbol.h"
 
 namespace preview {
@@ -38,9 +39,18 @@ void ReplaceAll(std::string& text, const std::string& what, const std::string& b
   }
 }
 
+std::vector<std::string> TextsOf(const std::vector<BatchLine>& lines) {
+  std::vector<std::string> texts;
+  for (const BatchLine& line : lines) texts.push_back(line.text);
+  return texts;
+}
+
 class BatchRun {
  public:
-  BatchRun(const Options& options, std::size_t lines) : options_(options), progress_(lines) {}
+  BatchRun(const Options& options, const std::vector<BatchLine>& lines)
+      : options_(options), request_(options.request), progress_(lines.size()) {
+    if (options.sameSize) TakeLargestSize(request_, TextsOf(lines));
+  }
 
   int Run(const std::vector<BatchLine>& lines) {
     for (std::size_t i = 0; i < lines.size(); ++i) {
@@ -72,9 +82,10 @@ class BatchRun {
   }
 
   void RunLine(const BatchLine& line) {
-    Request request = options_.request;
-    request.text = line.text;
-    Symbol symbol = MakeSymbol(request);
+    const std::optional<std::string> text = TextFrom(request_, line.text);
+    if (!text) return Fail(line, kRefused, WhyNoBytes(line.text));
+    request_.text = *text;
+    Symbol symbol = MakeSymbol(request_);
     if (options_.explain) Tell(fmt::format("{}: {}", line.number, ExplanationText(symbol)));
     if (const std::optional<Failure> failure = FailureOf(symbol)) {
       return Fail(line, failure->code, failure->sentence);
@@ -125,6 +136,7 @@ class BatchRun {
   }
 
   const Options& options_;
+  Request request_;
   Progress progress_;
   std::size_t marked_ = 0;
   int code_ = kDone;
@@ -171,7 +183,7 @@ int RunBatch(const Options& options) {
     PrintError("the batch has no texts");
     return kRefused;
   }
-  return BatchRun(options, lines.size()).Run(lines);
+  return BatchRun(options, lines).Run(lines);
 }
 
 }  // namespace preview

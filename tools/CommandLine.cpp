@@ -4,6 +4,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include "JobOptions.h"
 #include "Messages.h"
 #include "Symbologies.h"
 
@@ -88,44 +89,39 @@ CLI::Option* AddLength(CLI::App& app, const char* name, double& value, const cha
 
 void DescribeSymbol(CLI::App& app, Options& options) {
   Request& request = options.request;
+  BarhatchJob& job = request.job;
   app.add_option("text", request.text, "text of the barcode")->group("Symbol");
   app.add_option_function<std::string>(
-         "-t,--type", [&](const std::string& text) { request.symbology = *SymbologyFrom(text); },
+         "-t,--type", [&](const std::string& text) { job.symbology = *SymbologyFrom(text); },
          "type by number or name (default code39)")
       ->check(CheckType);
   app.add_flag("-d,--device", request.device,
                "as the device writes it, with its deviations from the standard");
-  app.add_flag("--permit", request.permit,
-               "write what readers know and the standard leaves out (UPC-E, add-ons of EAN-8)");
-  AddLength(app, "-W,--width", request.width, "width of a linear symbol")->capture_default_str();
-  AddLength(app, "-H,--height", request.height, "height of the bars, or of a Data Matrix")
+  AddLength(app, "-W,--width", job.width, "width of a linear symbol")->capture_default_str();
+  AddLength(app, "-H,--height", job.height, "height of the bars, or of a Data Matrix")
       ->capture_default_str();
-  AddLength(app, "-r,--ratio", request.ratio, "width of a wide element in modules (default 3)");
-  app.add_flag("-q,--quiet-zone", request.quietZone, "the quiet zones are a part of the size");
+  AddLength(app, "-r,--ratio", job.ratio, "width of a wide element in modules (default 3)");
   app.add_option_function<std::string>(
          "--size",
          [&](const std::string& text) {
            const MatrixSize size = *MatrixSizeFrom(text);
-           request.rows = size.rows;
-           request.columns = size.columns;
+           job.rows = size.rows;
+           job.columns = size.columns;
          },
-         "size of a Data Matrix, rows x columns (default: the smallest square)")
+         "size of a Data Matrix, rows x columns (default: the smallest of the shape)")
       ->check(CheckMatrixSize);
-  app.add_flag("--expand", request.expand, "the Data Matrix may grow beyond --size");
-  app.add_option("--format", request.format,
-                 "code format of a Data Matrix: 1 FNC1 second, 2 and 3 macro headers")
-      ->check(CLI::Range(0, 3));
+  DescribeJobOptions(app, job);
 }
 
 void DescribeMarking(CLI::App& app, Options& options) {
-  Request& request = options.request;
-  app.add_option("-p,--pattern", request.pattern,
+  BarhatchJob& job = options.request.job;
+  app.add_option("-p,--pattern", job.pattern,
                  "0 scan lines, 1 vertical, 2 horizontal alternating, 3 vertical alternating, 5 "
                  "spiral, 6 points")
       ->check(CheckPattern)
       ->capture_default_str();
-  AddLength(app, "-g,--gap", request.gap, "pitch of the strokes")->capture_default_str();
-  app.add_flag("-i,--invert", request.invert, "fill the light elements instead of the dark ones");
+  AddLength(app, "-g,--gap", job.gap, "pitch of the strokes")->capture_default_str();
+  app.add_flag("-i,--invert", job.invert, "fill the light elements instead of the dark ones");
   AddLength(app, "--mark-speed,--feed", options.speeds.mark, "marking speed, mm/s")
       ->capture_default_str();
   AddLength(app, "--jump-speed,--travel-speed", options.speeds.jump, "speed between strokes, mm/s")
@@ -161,6 +157,11 @@ void DescribeOutput(CLI::App& app, Options& options) {
 
 void DescribeTasks(CLI::App& app, Options& options) {
   app.add_option("--batch", options.batch, "texts from a file, one a line; - for standard input");
+  app.add_flag("--same-size", options.sameSize,
+               "every Data Matrix of the batch in the size of the largest");
+  app.add_option("--mask", options.mask,
+                 "in the size that holds every text of a mask: # a digit, A a letter, ? any byte")
+      ->excludes("--same-size", "--size");
   app.add_flag("--sheet", options.sheet, "all symbols of the batch in one file, with captions");
   app.add_option("--columns", options.columns, "symbols side by side on the sheet")
       ->check(CLI::Range(1, 1000))
@@ -189,11 +190,12 @@ bool HasOutput(const Options& options, std::initializer_list<const char*> ending
 bool IsForMatrix(const Options& o) { return IsMatrix(o.request); }
 bool IsForLinear(const Options& o) { return !IsMatrix(o.request); }
 bool IsByTheBook(const Options& o) { return ConformanceOf(o.request) == BARHATCH_PUBLISHED; }
+bool IsOfTheDevice(const Options& o) { return !IsByTheBook(o); }
 bool HasSvg(const Options& o) { return HasOutput(o, {".svg"}); }
 bool HasPixels(const Options& o) { return o.verify || HasOutput(o, {".png"}); }
 bool HasPicture(const Options& o) { return HasSvg(o) || HasPixels(o); }
 bool HasGcode(const Options& o) { return HasOutput(o, {".gcode", ".nc"}); }
-bool MarksPoints(const Options& o) { return o.request.pattern == BARHATCH_POINTS; }
+bool MarksPoints(const Options& o) { return o.request.job.pattern == BARHATCH_POINTS; }
 bool MarksStrokes(const Options& o) { return !MarksPoints(o); }
 bool HasBatch(const Options& o) { return !o.batch.empty(); }
 bool HasSheet(const Options& o) { return o.sheet; }
@@ -210,7 +212,7 @@ constexpr Applicability kApplicabilities[] = {
     {"--ratio", IsForLinear, "linear types with wide elements"},
     {"--size", IsForMatrix, "a Data Matrix"},
     {"--expand", IsForMatrix, "a Data Matrix"},
-    {"--format", IsForMatrix, "a Data Matrix"},
+    {"--format", IsOfTheDevice, "--device; by the book there are --fnc1-second and --envelope"},
     {"--animate", HasSvg, "an SVG"},
     {"--dark-part", HasPicture, "a picture (.svg, .png, --verify)"},
     {"--beam", HasPicture, "a picture (.svg, .png, --verify)"},
@@ -221,6 +223,8 @@ constexpr Applicability kApplicabilities[] = {
     {"--dwell", MarksPoints, "points (--pattern 6)"},
     {"--mark-speed", MarksStrokes, "strokes; points have a --dwell"},
     {"--sheet", HasBatch, "a batch"},
+    {"--same-size", HasBatch, "a batch"},
+    {"--mask", IsForMatrix, "a Data Matrix"},
     {"--columns", HasSheet, "a --sheet"},
 };
 
@@ -261,7 +265,8 @@ std::string WhyItIsWrong(const CLI::App& app, const Options& options) {
     return "--laser M4 is off where the head stands still: points need M3";
   }
   if (HasBatch(options)) return WhyBatchIsWrong(app, options);
-  return app.count("text") == 0 ? "a text is required (or --batch, --list, --help)" : "";
+  if (app.count("text") == 0) return "a text is required (or --batch, --list, --help)";
+  return TextFrom(options.request, options.request.text) ? "" : WhyNoBytes(options.request.text);
 }
 
 // The arguments that are no options and no text.
@@ -310,9 +315,12 @@ std::optional<int> ParseCommandLine(int argc, const char* const* argv, Options& 
     return kBadArguments;
   }
   const std::string wrong = WhyItIsWrong(app, options);
-  if (wrong.empty()) return std::nullopt;
-  PrintError(wrong);
-  return kBadArguments;
+  if (!wrong.empty()) {
+    PrintError(wrong);
+    return kBadArguments;
+  }
+  options.request.text = *TextFrom(options.request, options.request.text);
+  return std::nullopt;
 }
 
 }  // namespace preview

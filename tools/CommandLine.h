@@ -18,6 +18,7 @@ struct Options {
   std::vector<std::string> outputs;
   std::string table;        // "types" to print it
   std::string batch;        // file of texts, "-" for standard input
+  std::string mask;         // of texts that one size of a Data Matrix has to hold; empty: none
   std::size_t columns = 4;  // of the sheet
   Speeds speeds;
   Laser laser;
@@ -27,6 +28,7 @@ struct Options {
   bool animate = false;
   bool darkPart = false;
   bool sheet = false;
+  bool sameSize = false;
   bool verify = false;
   bool explain = false;
   bool quiet = false;

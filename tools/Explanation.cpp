@@ -34,14 +34,18 @@ std::string SymbolLines(const Result& result) {
   const std::string warning = WarningText(result);
   if (!warning.empty()) lines += Indented("warning: " + warning);
   lines += Indented(std::string(result.DeviationLines().Text()));
-  return lines + Indented("a standard reader reads: " + ReadingText(result));
+  if (result.capacity() > 0)
+    lines += Indented(fmt::format("codewords: {} of {}", result.codewords(), result.capacity()));
+  if (result.Hri() && result.Hri() != result.Reading())
+    lines += Indented("for people: " + TextOf(result.Hri()));
+  return lines + Indented("a standard reader reads: " + TextOf(result.Reading()));
 }
 
 }  // namespace
 
 std::string ExplanationText(const Symbol& symbol) {
   const Request& request = symbol.request;
-  return fmt::format("{} {}, {}: {}", NameOf(request.symbology), Quoted(request.text),
+  return fmt::format("{} {}, {}: {}", NameOf(request.job.symbology), Quoted(request.text),
                      ConformanceName(request),
                      symbol.result ? SymbolLines(symbol.result) : RefusalLines(symbol));
 }

@@ -10,6 +10,7 @@
 #include "Explanation.h"
 #include "Messages.h"
 #include "Outputs.h"
+#include "SharedSize.h"
 #include "Symbol.h"
 #include "Symbologies.h"
 
@@ -31,7 +32,7 @@ int RunOne(const Options& options) {
   const Symbol symbol = MakeSymbol(options.request);
   if (options.explain) Print(ExplanationText(symbol));
   if (const std::optional<Failure> failure = FailureOf(symbol)) {
-    const bool isExplained = options.explain && failure->code == kRefused;
+    const bool isExplained = options.explain && !symbol.result;
     if (!isExplained) PrintError(failure->sentence);
     return failure->code;
   }
@@ -52,6 +53,13 @@ int ParseAndRun(int argc, char** argv) {
   if (options.list || !options.table.empty()) {
     Print(options.list ? SymbologyList() : SymbologyTable());
     return kDone;
+  }
+  if (!options.mask.empty()) {
+    const std::string reason = TakeSizeOfMask(options.request, options.mask);
+    if (!reason.empty()) {
+      PrintError(reason);
+      return kRefused;
+    }
   }
   return options.batch.empty() ? RunOne(options) : RunBatch(options);
 }

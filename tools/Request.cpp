@@ -1,52 +1,68 @@
 #include "Request.h"
 
+#include "Messages.h"
+
 namespace preview {
 
 namespace {
 
-constexpr int kFnc1Format = 1;
-constexpr int kMacro05Format = 2;
-constexpr int kMacro06Format = 3;
-
-std::uint32_t FlagsOf(const Request& request) {
-  std::uint32_t flags = 0;
-  if (request.quietZone) flags |= BARHATCH_QUIET_INSIDE;
-  if (request.permit) flags |= BARHATCH_PERMIT;
-  if (request.expand) flags |= BARHATCH_MAY_GROW;
-  if (request.format == kFnc1Format) flags |= BARHATCH_FNC1_SECOND;
-  return flags;
-}
-
-std::int32_t EnvelopeOf(const Request& request) {
-  if (request.format == kMacro05Format) return 5;
-  return request.format == kMacro06Format ? 6 : 0;
-}
-
+// REQUIRES: the text stays as long as the job.
 BarhatchJob JobOf(const Request& request) {
-  BarhatchJob job = {};
-  job.size = sizeof job;
-  job.symbology = request.symbology;
+  BarhatchJob job = request.job;
   job.conformance = ConformanceOf(request);
   job.text = request.text.data();
   job.length = request.text.size();
-  job.envelope = EnvelopeOf(request);
-  job.rows = request.rows;
-  job.columns = request.columns;
-  job.flags = FlagsOf(request);
-  job.pattern = request.pattern;
-  job.invert = request.invert ? 1 : 0;
-  job.width = IsMatrix(request) ? 0.0 : request.width;
-  job.height = request.height;
-  job.ratio = request.ratio;
+  if (IsMatrix(request)) job.width = 0.0;
   // A quiet zone of the part's own surface is always there; around light marks it is marked as
   // well.
-  job.quiet = request.invert && !request.quietZone ? -1.0 : 0.0;
-  job.gap = request.gap;
+  job.quiet = job.invert != 0 && !HasQuietZoneInside(request) ? -1.0 : 0.0;
   return job;
 }
+
+// -1 for what is no hexadecimal digit.
+int DigitOf(char c) {
+  if (c >= '0' && c <= '9') return c - '0';
+  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
+  return c >= 'a' && c <= 'f' ? c - 'a' + 10 : -1;
+}
+
 }  // namespace
 
+BarhatchJob UsualJob() {
+  BarhatchJob job = {};
+  job.size = sizeof job;
+  job.symbology = BARHATCH_CODE_39;
+  job.width = 60.0;
+  job.height = 12.0;
+  job.gap = 0.1;
+  return job;
+}
+
 Result ResultOf(const Request& request) { return Result(JobOf(request)); }
+
+Result ValidationOf(const Request& request) {
+  BarhatchJob job = JobOf(request);
+  job.want = BARHATCH_WANT_VALIDATION;
+  return Result(job);
+}
+
+std::optional<std::string> TextFrom(const Request& request, const std::string& given) {
+  const std::int32_t input = request.job.input;
+  if (input != BARHATCH_BYTES && input != BARHATCH_CODEWORDS) return given;
+  if (given.size() % 2 != 0) return std::nullopt;
+  std::string bytes;
+  for (std::size_t i = 0; i < given.size(); i += 2) {
+    const int high = DigitOf(given[i]);
+    const int low = DigitOf(given[i + 1]);
+    if (high < 0 || low < 0) return std::nullopt;
+    bytes += static_cast<char>(high * 16 + low);
+  }
+  return bytes;
+}
+
+std::string WhyNoBytes(const std::string& given) {
+  return Quoted(given) + " is not bytes in hexadecimal, such as 00E4FF";
+}
 
 Result AnswerOf(std::int32_t symbology, std::int32_t conformance) {
   BarhatchJob job = {};
@@ -61,10 +77,14 @@ bool IsWritten(std::int32_t symbology, std::int32_t conformance) {
   return AnswerOf(symbology, conformance).status() != barhatch::Status::kBadOption;
 }
 
-bool IsMatrix(const Request& request) { return request.symbology == BARHATCH_DATA_MATRIX; }
+bool IsMatrix(const Request& request) { return request.job.symbology == BARHATCH_DATA_MATRIX; }
+
+bool HasQuietZoneInside(const Request& request) {
+  return (request.job.flags & BARHATCH_QUIET_INSIDE) != 0;
+}
 
 std::int32_t ConformanceOf(const Request& request) {
-  const bool isByTheBook = !request.device && IsWritten(request.symbology, BARHATCH_PUBLISHED);
+  const bool isByTheBook = !request.device && IsWritten(request.job.symbology, BARHATCH_PUBLISHED);
   return isByTheBook ? BARHATCH_PUBLISHED : BARHATCH_DEVICE;
 }
 

@@ -24,7 +24,8 @@ std::string SizeFact(const Symbol& symbol) {
 std::string QuietZoneFact(const Symbol& symbol) {
   const barhatch::Rect inner = symbol.result.symbol();
   const barhatch::Rect outer = symbol.result.total();
-  const char* const where = symbol.request.quietZone ? "inside the size" : "around the symbol";
+  const char* const where =
+      HasQuietZoneInside(symbol.request) ? "inside the size" : "around the symbol";
   return fmt::format("{:.6g} mm left, {:.6g} mm right, {}", inner.left - outer.left,
                      outer.right - inner.right, where);
 }
@@ -55,7 +56,7 @@ Verdict VerifyAt(const Symbol& symbol, const Options& options, double pixelsPerU
 
 // What keeps a reader from seeing the symbol in this picture, where the options tell it.
 std::string Advice(const Symbol& symbol, const Options& options) {
-  if (symbol.request.invert && !(options.darkPart && symbol.request.quietZone)) {
+  if (symbol.request.job.invert != 0 && !(options.darkPart && HasQuietZoneInside(symbol.request))) {
     return "; inverted marks are read with --dark-part and --quiet-zone";
   }
   if (symbol.drawing.kind != MarkKind::kPoints) return "";
@@ -78,18 +79,21 @@ Symbol MakeSymbol(const Request& request) {
 
 std::optional<Failure> FailureOf(const Symbol& symbol) {
   const Request& request = symbol.request;
-  const char* const name = NameOf(request.symbology);
+  const char* const name = NameOf(request.job.symbology);
   if (!symbol.result) {
-    return Failure{kRefused, fmt::format("{} refuses {}: {}", name, Quoted(request.text),
-                                         symbol.result.message())};
+    const bool isOption = symbol.result.status() == barhatch::Status::kBadOption;
+    return Failure{
+        isOption ? kBadArguments : kRefused,
+        fmt::format("{} refuses {}: {}", name, Quoted(request.text), symbol.result.message())};
   }
-  if (request.ratio == 0.0 || HasWideElements(symbol.result)) return std::nullopt;
+  if (request.job.ratio == 0.0 || HasWideElements(symbol.result)) return std::nullopt;
   return Failure{kBadArguments, fmt::format("--ratio is for wide elements, and {} has none", name)};
 }
 
 std::string Headline(const Symbol& symbol) {
-  return fmt::format("{} {}: {}, {}", NameOf(symbol.request.symbology), Quoted(symbol.request.text),
-                     CountText(StatisticsOf(symbol.drawing, {})), ConformanceName(symbol.request));
+  return fmt::format("{} {}: {}, {}", NameOf(symbol.request.job.symbology),
+                     Quoted(symbol.request.text), CountText(StatisticsOf(symbol.drawing, {})),
+                     ConformanceName(symbol.request));
 }
 
 std::string Facts(const Symbol& symbol, const Speeds& speeds) {

@@ -2,6 +2,7 @@
 
 #include <fmt/core.h>
 
+#include "JobOptions.h"
 #include "Request.h"
 
 namespace preview {
@@ -38,11 +39,13 @@ constexpr Symbology kSymbologies[] = {
     {BARHATCH_INTERLEAVED_2_OF_5, "itf"},
     {BARHATCH_CODE_93_FULL, "code93full"},
     {BARHATCH_DATA_MATRIX, "datamatrix"},
+    {BARHATCH_ITF_14, "itf14"},
+    {BARHATCH_CODE_39_FULL, "code39full"},
 };
 
-// The numbers are those of SetBarcodeType, which has none for Data Matrix.
+// The numbers are those of SetBarcodeType, which has none for the others.
 std::string NumberOf(const Symbology& row) {
-  return row.symbology == BARHATCH_DATA_MATRIX ? "" : std::to_string(row.symbology);
+  return row.symbology >= BARHATCH_DATA_MATRIX ? "" : std::to_string(row.symbology);
 }
 
 std::string Lowered(std::string text) {
@@ -52,14 +55,18 @@ std::string Lowered(std::string text) {
   return text;
 }
 
-// The row's number, name, symbology, conformances and accepted text, by the book where it can be
-// written so, into the places of a format.
+std::string AcceptedBy(const Symbology& row, std::int32_t conformance) {
+  if (!IsWritten(row.symbology, conformance)) return "-";
+  return std::string(AnswerOf(row.symbology, conformance).accepts());
+}
+
+// The row's number, name, symbology, texts of both conformances and names of --check, into the
+// places of a format.
 std::string Formatted(const char* format, const Symbology& row) {
-  const bool isByTheBook = IsWritten(row.symbology, BARHATCH_PUBLISHED);
-  const bool isOfTheDevice = IsWritten(row.symbology, BARHATCH_DEVICE);
-  const Result answer = AnswerOf(row.symbology, isByTheBook ? BARHATCH_PUBLISHED : BARHATCH_DEVICE);
+  const Result answer = AnswerOf(row.symbology, BARHATCH_PUBLISHED);
   return fmt::format(fmt::runtime(format), NumberOf(row), row.name, answer.name(),
-                     isByTheBook ? "yes" : "no", isOfTheDevice ? "yes" : "no", answer.accepts());
+                     AcceptedBy(row, BARHATCH_PUBLISHED), AcceptedBy(row, BARHATCH_DEVICE),
+                     ChecksOf(row.symbology));
 }
 
 std::string FormattedRows(const char* format) {
@@ -84,15 +91,23 @@ const char* NameOf(std::int32_t symbology) {
   return row->name;
 }
 
+std::vector<std::int32_t> SymbologyNumbers() {
+  std::vector<std::int32_t> numbers;
+  for (const Symbology& row : kSymbologies) numbers.push_back(row.symbology);
+  return numbers;
+}
+
 std::string SymbologyList() {
-  constexpr const char* kFormat = "{:>4}  {:<10}  {:<26}  {:<11}  {:<6}  {}\n";
-  return fmt::format(fmt::runtime(kFormat), "type", "name", "symbology", "by the book", "device",
-                     "text") +
-         FormattedRows(kFormat);
+  return FormattedRows(
+      "{:>4}  {:<10}  {}\n"
+      "                  by the book: {}\n"
+      "                  on the device: {}\n"
+      "                  --check: {}\n");
 }
 
 std::string SymbologyTable() {
-  return "| type | name | symbology | by the book | as the device writes it | text |\n"
+  return "| type | name | symbology | text, by the book | text, as the device takes it | `--check` "
+         "|\n"
          "|---|---|---|---|---|---|\n" +
          FormattedRows("| {} | `{}` | {} | {} | {} | {} |\n");
 }

@@ -6,17 +6,21 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace preview {
 
-// Given by name ("code39", in any case) or, but for Data Matrix, by number ("1"); nothing for
+// Given by name ("code39", in any case) or, where the device has one, by number ("1"); nothing for
 // anything else.
 std::optional<std::int32_t> SymbologyFrom(const std::string& text);
 
 // REQUIRES: a symbology that SymbologyFrom gives.
 const char* NameOf(std::int32_t symbology);
 
-// --list: one a line, for the terminal.
+// All of them.
+std::vector<std::int32_t> SymbologyNumbers();
+
+// --list: for the terminal.
 std::string SymbologyList();
 
 // --table types: the same in Markdown.

@@ -43,7 +43,7 @@ bool IsKnownToReader(std::int32_t symbology) {
 bool IsAsPromised(const Request& request, std::string_view promised, const Reading& reading) {
   if (reading.bytes == promised || reading.text == Utf8Of(promised)) return true;
   if (reading.format == "UPC-A" && "0" + reading.text == promised) return true;
-  const bool hasFnc1 = IsMatrix(request) && request.format == 1;
+  const bool hasFnc1 = (request.job.flags & BARHATCH_FNC1_SECOND) != 0;
   return hasFnc1 && WithoutFnc1(reading.bytes) == WithoutFnc1(std::string(promised));
 }
 
@@ -53,7 +53,7 @@ std::string Causes(const Result& result) {
 }
 
 Verdict JudgeBlank(const Request& request, const Result& result) {
-  if (!IsKnownToReader(request.symbology)) {
+  if (!IsKnownToReader(request.job.symbology)) {
     return {false, false, "cannot verify, the reader does not know this symbology"};
   }
   const std::string sentence = "the reader finds no symbol in the picture";
@@ -63,8 +63,8 @@ Verdict JudgeBlank(const Request& request, const Result& result) {
 
 }  // namespace
 
-std::string ReadingText(const Result& result) {
-  return result.Reading() ? Quoted(Utf8Of(*result.Reading()), kMostShown) : "nothing";
+std::string TextOf(const std::optional<std::string_view>& latin1) {
+  return latin1 ? Quoted(Utf8Of(*latin1), kMostShown) : "nothing";
 }
 
 std::string DeviationIds(const Result& result) {
@@ -81,7 +81,8 @@ Verdict Judge(const Request& request, const Result& result, const std::optional<
   const std::string found = fmt::format("{} reads {} {}", reading->reader, reading->format,
                                         Quoted(reading->text, kMostShown));
   if (!result.Reading() || !IsAsPromised(request, *result.Reading(), *reading)) {
-    return {false, false, fmt::format("{}, but the library says {}", found, ReadingText(result))};
+    return {false, false,
+            fmt::format("{}, but the library says {}", found, TextOf(result.Reading()))};
   }
   if (!result.warnings().Has(barhatch::Warning::kUnreadable)) return {true, false, found};
   return {false, false,

@@ -5,15 +5,16 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "ReadBack.h"
 #include "Request.h"
 
 namespace preview {
 
-// What the library promises, in quotes and its bytes as Latin-1; "nothing" where a reader reads
-// nothing.
-std::string ReadingText(const Result& result);
+// A reading or a text for people, in quotes and its bytes as Latin-1; "nothing" where there is
+// none.
+std::string TextOf(const std::optional<std::string_view>& latin1);
 
 // "D-39-2, D-39-4": the deviations that the symbol has met; empty where it has met none.
 std::string DeviationIds(const Result& result);

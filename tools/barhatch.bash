@@ -5,10 +5,16 @@ _barhatch() {
   case $previous in
     -t | --type)
       COMPREPLY=($(compgen -W "codabar code39 code93 ean13 msi code128 code128a code128b code128c upca upce code11 ean8
-        upca+2 upca+5 ean13+2 ean13+5 ean8+2 ean8+5 upce+2 upce+5 itf code93full datamatrix" -- "$word"))
+        upca+2 upca+5 ean13+2 ean13+5 ean8+2 ean8+5 upce+2 upce+5 itf code93full datamatrix itf14 code39full" -- "$word"))
       return
       ;;
     -p | --pattern) COMPREPLY=($(compgen -W "0 1 2 3 5 6" -- "$word")); return ;;
+    --check)
+      COMPREPLY=($(compgen -W "own none verify mod43 mod16 itf msi10 msi10+10 msi11 msi11+10 ncr11 ncr11+10 c ck" -- "$word"))
+      return
+      ;;
+    --shape) COMPREPLY=($(compgen -W "square rectangle any dmre" -- "$word")); return ;;
+    --envelope) COMPREPLY=($(compgen -W "5 6 12 dd" -- "$word")); return ;;
     --format) COMPREPLY=($(compgen -W "0 1 2 3" -- "$word")); return ;;
     --laser) COMPREPLY=($(compgen -W "M3 M4" -- "$word")); return ;;
     --table) COMPREPLY=($(compgen -W "types" -- "$word")); return ;;
@@ -20,9 +26,11 @@ _barhatch() {
     -o | --output | --batch) COMPREPLY=($(compgen -f -- "$word")); return ;;
   esac
   if [[ $word == -* ]]; then
-    COMPREPLY=($(compgen -W "-t --type -d --device --permit -W --width -H --height -r --ratio -q --quiet-zone --size --expand --format -p --pattern
+    COMPREPLY=($(compgen -W "-t --type -d --device -W --width -H --height -r --ratio -q --quiet-zone --permit --no-proof --gs1 --escapes --bytes
+      --codewords --check --start-stop --addon-gap --size --expand --shape --mask --envelope --eci --fnc1-second
+      --gs-separators --reader-programming --loose-end --industry-144 --format -p --pattern
       -g --gap -i --invert --mark-speed --feed --jump-speed --travel-speed --dwell --power --laser -o --output --animate
-      --dark-part --beam --margin --pixels-per-unit --batch --sheet --columns --explain --verify --list --table -Q --quiet
+      --dark-part --beam --margin --pixels-per-unit --batch --same-size --sheet --columns --explain --verify --list --table -Q --quiet
       -h --help --version" -- "$word"))
   fi
 }

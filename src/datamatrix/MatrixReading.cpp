@@ -12,6 +12,8 @@ enum Codeword {
   kLatchC40 = 230,
   kLatchBase256 = 231,
   kFnc1 = 232,
+  kStructuredAppend = 233,
+  kReaderProgramming = 234,
   kUpperShift = 235,
   kMacro05 = 236,
   kMacro06 = 237,
@@ -119,8 +121,12 @@ class CodewordReader {
   void ReadFunction(int codeword) {
     switch (codeword) {
       case kFnc1:
-        if (next_ > 2) output_.Write(kGroupSeparator);
+        if (next_ > begin_ + 2) output_.Write(kGroupSeparator);
         return;
+      case kStructuredAppend:
+        return ReadStructure();
+      case kReaderProgramming:
+        return next_ == 1 ? void() : Break();
       case kUpperShift:
         return ReadUpperShift();
       case kEci:
@@ -146,6 +152,12 @@ class CodewordReader {
     const int more = first <= 127 ? 0 : first <= 191 ? 1 : 2;
     if (first < 1 || first > 207 || Left() < more) return Break();
     next_ += more;
+  }
+
+  // Which symbol of which message this is; the text begins behind it.
+  void ReadStructure() {
+    if (next_ != 1 || Left() < 3) return Break();
+    next_ = begin_ = 4;
   }
 
   void ReadMacro(const char* head) {
@@ -273,6 +285,7 @@ class CodewordReader {
   int count_;
   Output& output_;
   int next_ = 0;
+  int begin_ = 0;  // of the text, behind a structured append
   bool isBroken_ = false;
   bool hasEnded_ = false;
   bool isMacro_ = false;

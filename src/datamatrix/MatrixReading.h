@@ -8,7 +8,9 @@
 // Besides characters, a reader reports:
 //   macro 05, 06   "[)>" RS "05" GS in front of the text, RS EOT behind it
 //   FNC1           GS (byte 29), but nothing for the first and the second codeword of the symbol,
-//                  where it tells the application and not the text
+//                  where it tells the application and not the text; behind a structured append, of
+//                  what follows that
+//   structured append, reader programming   nothing, as the first codeword
 //   ECI            nothing: the bytes stay, what they stand for has changed
 //   pads           nothing: the first one ends the text
 #ifndef BARHATCH_DATAMATRIX_MATRIXREADING_H
@@ -29,7 +31,7 @@ constexpr std::size_t MostBytesRead(int codewords) {
 // than the room. Takes time in proportion to the codewords and no memory.
 //
 // False when the codewords break the standard (a value that its set lacks, a sequence that is cut
-// off, structured append and reader programming, which are not marked). The bytes are those in
+// off, structured append behind other codewords). The bytes are those in
 // front of the break. Tolerated, as by common readers, is an unlatch in ASCII as the last codeword.
 bool ReadCodewords(const std::uint8_t* codewords, int count, char* out, std::size_t room,
                    std::size_t& length);

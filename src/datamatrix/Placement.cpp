@@ -41,6 +41,9 @@ constexpr char LetterOfBit(int codeword, int bit) {
   return (codeword << bit & 0x80) != 0 ? kNarrowBar : kNarrowSpace;
 }
 
+// ISO/IEC 21471 takes a row that wrapping has moved below the matrix back to its top; the sizes of
+// ISO/IEC 16022 have none.
+template <bool kTakesRowsBack>
 class Walk {
  public:
   Walk(const std::uint8_t* codewords, int rows, int columns, char* mapping)
@@ -119,6 +122,7 @@ class Walk {
       column += columns_;
       row += 4 - (columns_ + 4) % 8;
     }
+    if (kTakesRowsBack && row >= rows_) row -= rows_;
     At(row, column) = letter;
   }
 
@@ -140,7 +144,12 @@ class Walk {
 
 void PlaceCodewords(const std::uint8_t* codewords, int rows, int columns, char* mapping) {
   std::memset(mapping, kUntouched, static_cast<std::size_t>(rows * columns));
-  Walk(codewords, rows, columns, mapping).Run();
+  Walk<false>(codewords, rows, columns, mapping).Run();
+}
+
+void PlaceDmreCodewords(const std::uint8_t* codewords, int rows, int columns, char* mapping) {
+  std::memset(mapping, kUntouched, static_cast<std::size_t>(rows * columns));
+  Walk<true>(codewords, rows, columns, mapping).Run();
 }
 
 }  // namespace barhatch

@@ -25,6 +25,10 @@ namespace barhatch {
 // rows and columns: those of a row of the size tables.
 void PlaceCodewords(const std::uint8_t* codewords, int rows, int columns, char* mapping);
 
+// The same for the rectangles of ISO/IEC 21471, in which a shape may also leave at the bottom and
+// then comes in at the top.
+void PlaceDmreCodewords(const std::uint8_t* codewords, int rows, int columns, char* mapping);
+
 }  // namespace barhatch
 
 #endif

@@ -32,20 +32,24 @@ constexpr Field kField = MakeField();
 static_assert(kField.antilog[8] == 0x2D, "x^8 is the rest of the field polynomial");
 static_assert(kField.antilog[255] == 1 && kField.log[1] == 0, "2 generates the whole group");
 
+// Of the sizes of ISO/IEC 16022, and those that ISO/IEC 21471 adds.
 constexpr int kDegrees[] = {5, 7, 10, 11, 12, 14, 18, 20, 24, 28, 36, 42, 48, 56, 62, 68};
+constexpr int kMoreDegrees[] = {15, 22, 27, 32, 34, 38, 41, 46, 50};
 constexpr int kMaxDegree = 68;
 
-constexpr int SumOfDegrees() {
-  int sum = 0;
-  for (int degree : kDegrees) sum += degree;
+template <std::size_t count>
+constexpr std::size_t SumOf(const int (&degrees)[count]) {
+  std::size_t sum = 0;
+  for (int degree : degrees) sum += static_cast<std::size_t>(degree);
   return sum;
 }
 
 // The generator polynomials one after the other, each as the logarithms of its coefficients from
 // x^(k-1) down to x^0. The leading one is 1; none is 0, as the polynomial is itself a codeword and
 // codewords that differ, differ in k + 1 places.
+template <std::size_t count>
 struct Generators {
-  std::uint8_t logs[SumOfDegrees()];
+  std::uint8_t logs[count];
 };
 
 // Multiplies the polynomial of the given degree, in ascending powers, by x + 2^(degree + 1).
@@ -58,19 +62,21 @@ constexpr void MultiplyByNextRoot(std::uint8_t (&polynomial)[kMaxDegree + 1], in
   }
 }
 
-constexpr Generators MakeGenerators() {
-  Generators generators{};
+template <const auto& degrees>
+constexpr auto MakeGenerators() {
+  Generators<SumOf(degrees)> generators{};
   std::uint8_t polynomial[kMaxDegree + 1] = {1};
   int degree = 0;
   int written = 0;
-  for (int wanted : kDegrees) {
+  for (int wanted : degrees) {
     for (; degree < wanted; ++degree) MultiplyByNextRoot(polynomial, degree);
     for (int power = degree - 1; power >= 0; --power)
       generators.logs[written++] = kField.log[polynomial[power]];
   }
   return generators;
 }
-constexpr Generators kGenerators = MakeGenerators();
+constexpr auto kGenerators = MakeGenerators<kDegrees>();
+constexpr auto kMoreGenerators = MakeGenerators<kMoreDegrees>();
 
 // offset: where the logarithms of the generator begin; coefficients: from x^0 up.
 template <std::size_t degree>
@@ -84,13 +90,18 @@ constexpr bool GeneratorAtIs(std::size_t offset, const int (&coefficients)[degre
 static_assert(GeneratorAtIs(0, {228, 48, 15, 111, 62}), "ISO/IEC 16022, five error codewords");
 static_assert(GeneratorAtIs(5, {23, 68, 144, 134, 240, 92, 254}), "seven error codewords");
 
-const std::uint8_t* GeneratorLogs(int degree) {
-  const std::uint8_t* logs = kGenerators.logs;
-  for (int listed : kDegrees) {
+template <std::size_t count>
+const std::uint8_t* LogsFor(int degree, const int (&degrees)[count], const std::uint8_t* logs) {
+  for (int listed : degrees) {
     if (listed == degree) return logs;
     logs += listed;
   }
   return nullptr;
+}
+
+const std::uint8_t* GeneratorLogs(int degree) {
+  const std::uint8_t* const logs = LogsFor(degree, kDegrees, kGenerators.logs);
+  return logs != nullptr ? logs : LogsFor(degree, kMoreDegrees, kMoreGenerators.logs);
 }
 
 constexpr int ShiftOf(int coefficient) { return 24 - 8 * (coefficient % 4); }

@@ -15,8 +15,9 @@ namespace barhatch {
 // division is two additions of whole words, four codewords at a time.
 class BlockCoder {
  public:
-  // errorCodewords: as many as a block of some symbol size has (5, 7, 10, 11, 12, 14, 18, 20, 24,
-  // 28, 36, 42, 48, 56, 62, 68).
+  // errorCodewords: as many as a block of some symbol size has: 5, 7, 10, 11, 12, 14, 18, 20, 24,
+  // 28, 36, 42, 48, 56, 62, 68; of the rectangles of ISO/IEC 21471 also 15, 22, 27, 32, 34, 38, 41,
+  // 46, 50.
   explicit BlockCoder(int errorCodewords);
 
   // Writes the error codewords of one block. Codeword i of the data is data[i * stride], error

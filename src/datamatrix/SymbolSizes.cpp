@@ -51,15 +51,6 @@ constexpr const SymbolSize& LargestSquare() { return kSquareSizes[kSquareSizeCou
 constexpr int kMaxRectangularDataCodewords =
     kRectangularSizes[kRectangularSizeCount - 1].dataCodewords;
 
-constexpr bool IsConsistent(const SymbolSize& size) {
-  return size.dataCodewords + size.errorCodewords == size.mappingRows * size.mappingColumns / 8 &&
-         size.symbolRows == size.mappingRows + 2 * size.regionsDown &&
-         size.symbolColumns == size.mappingColumns + 2 * size.regionsAcross &&
-         size.mappingRows % (2 * size.regionsDown) == 0 &&
-         size.mappingColumns % (2 * size.regionsAcross) == 0 && size.mappingRows >= 6 &&
-         size.errorCodewords % size.blocks == 0;
-}
-
 template <std::size_t count>
 constexpr bool AreConsistentAndAscending(const SymbolSize (&sizes)[count]) {
   for (std::size_t i = 0; i < count; ++i) {

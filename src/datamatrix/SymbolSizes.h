@@ -37,6 +37,17 @@ struct SymbolSize {
   int blocks;          // interleaved Reed-Solomon blocks
 };
 
+// What holds for every row: the codewords fill the mapping matrix, the regions have their frames,
+// the blocks share the error codewords alike.
+constexpr bool IsConsistent(const SymbolSize& size) {
+  return size.dataCodewords + size.errorCodewords == size.mappingRows * size.mappingColumns / 8 &&
+         size.symbolRows == size.mappingRows + 2 * size.regionsDown &&
+         size.symbolColumns == size.mappingColumns + 2 * size.regionsAcross &&
+         size.mappingRows % (2 * size.regionsDown) == 0 &&
+         size.mappingColumns % (2 * size.regionsAcross) == 0 && size.mappingRows >= 6 &&
+         size.errorCodewords % size.blocks == 0;
+}
+
 constexpr int kSquareSizeCount = 24;
 constexpr int kRectangularSizeCount = 6;
 

@@ -55,7 +55,7 @@ constexpr AiRange Ai(const char (&digits)[size], Components... components) {
 }
 
 // GS1 General Specifications, section 3: the application identifiers in ascending order. Lists of
-// countries, currencies and packages, coupons and bank accounts have no check here.
+// countries, currencies and packages, and the parts of coupons, have no check here.
 // clang-format off
 constexpr AiRange kAiRanges[] = {
     Ai ("00",           N(18, Check::kCheckDigit)),
@@ -199,7 +199,7 @@ constexpr AiRange kAiRanges[] = {
     Ai ("8004",         X(1, 30, Check::kCompanyPrefix)),
     Ai ("8005",         N(6)),
     Ai ("8006",         N(14, Check::kCheckDigit), N(4, Check::kPieceOfTotal)),
-    Ai ("8007",         X(1, 34)),
+    Ai ("8007",         X(1, 34, Check::kBankAccount)),
     Ai ("8008",         N(6, Check::kDate), N(2, Check::kHour), Maybe(N(2, Check::kMinute)),
                         Maybe(N(2, Check::kSecond))),
     Ai ("8009",         X(1, 50)),

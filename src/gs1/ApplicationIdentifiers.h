@@ -55,6 +55,7 @@ enum class AiCheck : std::uint8_t {
   kPercentEscapes,   // % stands in front of two hexadecimal digits
   kImporterIndex,    // a digit, a letter, - or _
   kMediaType,        // 01 to 10, 80 to 99
+  kBankAccount,      // an IBAN: letters of a country, two check digits, digits and letters
   kPadding,          // = at the end alone, to fill up a group of three
 };
 

@@ -202,6 +202,22 @@ bool IsPadded(const TokenText& part) {
   return padding == 0 || (data > 0 && padding <= 2 && part.length % 3 == 0);
 }
 
+bool IsUpper(Token token) { return token >= 'A' && token <= 'Z'; }
+
+// The first four characters are moved behind the others and letters become numbers from 10 on: the
+// whole leaves 1, modulo 97.
+bool IsBankAccount(const TokenText& part) {
+  if (part.length < 5 || !IsUpper(part.tokens[0]) || !IsUpper(part.tokens[1])) return false;
+  std::uint32_t rest = 0;
+  for (std::size_t i = 0; i < part.length; ++i) {
+    const Token token = part.tokens[(i + 4) % part.length];
+    if (!IsDigitToken(token) && !IsUpper(token)) return false;
+    rest = IsUpper(token) ? rest * 100 + (token - 'A') + 10 : rest * 10 + (token - '0');
+    rest %= 97;
+  }
+  return rest == 1;
+}
+
 ValueFault CheckRest(const TokenText& part, AiCheck check) {
   switch (check) {
     case AiCheck::kZero:
@@ -231,6 +247,8 @@ ValueFault CheckRest(const TokenText& part, AiCheck check) {
       return WrongPartIf(!IsImporterIndex(part.tokens[0]), part, check);
     case AiCheck::kMediaType:
       return WrongPartIf(!IsMediaType(NumberOf(part)), part, check);
+    case AiCheck::kBankAccount:
+      return WrongPartIf(!IsBankAccount(part), part, check);
     case AiCheck::kPadding:
       return WrongPartIf(!IsPadded(part), part, check);
     default:

@@ -37,17 +37,22 @@ enum class Reason : std::uint8_t {
   kGeometry,            // sizes that make no sense
   kNothingToMark,
   kTooManyStrokes,  // more than a fill may have
+  kProof,           // the finished symbol does not decode to its text
   // GS1 element strings; the figure of all but the last is an AiFigure: identifier and detail
-  kUnknownAi,     // not assigned
-  kAiTooLong,     // a value; detail: its characters
-  kAiTooShort,    // a value; detail: its characters
-  kAiCharacter,   // detail: the code of one that the value may not have
-  kAiCheckDigit,  // detail: the right one
-  kAiCheckPair,   // detail: the codes of the right two, the first times 256
-  kAiDate,        // no such date or time; detail: a DateDetail
-  kAiValue,       // detail: the AiCheck that it fails
-  kAiRepeated,    // with another value; detail: nothing
-  kGs1Syntax,     // no application identifier where one begins
+  kUnknownAi,        // not assigned
+  kAiTooLong,        // a value; detail: its characters
+  kAiTooShort,       // a value; detail: its characters
+  kAiCharacter,      // detail: the code of one that the value may not have
+  kAiCheckDigit,     // detail: the right one
+  kAiCheckPair,      // detail: the codes of the right two, the first times 256
+  kAiDate,           // no such date or time; detail: a DateDetail
+  kAiValue,          // detail: the AiCheck that it fails
+  kAiRepeated,       // with another value; detail: nothing
+  kGs1Syntax,        // no application identifier where one begins
+  kTooManyElements,  // of GS1-128; figure: the data characters
+  kFnc1Place,        // position: of an FNC1 that would be taken for one in second position
+  kMaskEscape,       // position: of a backslash of a mask with nothing behind it to mean
+  kNoSuchByte,       // position: of a character that the ECI asked for has no byte for
   kNoMemory,
 };
 
@@ -58,9 +63,10 @@ constexpr std::int32_t FigureOf(std::size_t count) {
 
 struct Refusal {
   Reason reason = Reason::kNone;
-  std::int32_t position = -1;  // of a unit of the text, from 0; -1 for none
+  std::int32_t position =
+      -1;  // of a token of the text, for the device of a unit, from 0; -1 for none
   std::int32_t figure = 0;
-  std::int32_t extent = 1;  // units of the text from the position on
+  std::int32_t extent = 1;  // tokens from the position on
 
   constexpr bool IsRefused() const { return reason != Reason::kNone; }
 };

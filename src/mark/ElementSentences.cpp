@@ -30,6 +30,7 @@ constexpr CheckSentence kCheckSentences[] = {
     {AiCheck::kPercentEscapes, "% stands in front of two hexadecimal digits"},
     {AiCheck::kImporterIndex, "digits, letters, - and _ are the importer's indices"},
     {AiCheck::kMediaType, "01 to 10 and 80 to 99 are the types of media"},
+    {AiCheck::kBankAccount, "a country, two check digits that are right, digits and capitals"},
     {AiCheck::kPadding, "= stands at the end, where it makes the length a multiple of 3"},
 };
 

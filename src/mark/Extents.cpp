@@ -38,6 +38,7 @@ double ModuleSizeOf(const BarhatchJob& job, const MarkedSymbol& symbol) {
 }  // namespace
 
 bool HasWideElements(const MarkedSymbol& symbol) {
+  if (symbol.letters == nullptr) return false;  // of a mask
   for (const char* letter = symbol.letters; *letter != '\0'; ++letter) {
     if (*letter == kWideBar || *letter == kWideSpace) return true;
   }

@@ -70,7 +70,7 @@ std::int32_t NumberOf(const std::uint8_t* bytes, std::size_t left, std::size_t d
 InputText::InputText(const BarhatchJob& job)
     : text_(job.text),
       length_(job.length),
-      input_(job.input),
+      input_(job.input == BARHATCH_CODEWORDS ? BARHATCH_BYTES : job.input),
       isDevice_(job.conformance == BARHATCH_DEVICE) {
   if (text_ == nullptr || length_ != 0) return;
   if (input_ == BARHATCH_UNITS) {

@@ -3,6 +3,8 @@
 #include <cstring>
 #include <limits>
 
+#include "datamatrix/PublishedMatrix.h"
+#include "job/Token.h"
 #include "mark/Names.h"
 #include "symbologies/EanUpcElements.h"
 #include "symbologies/SymbologyTable.h"
@@ -13,11 +15,16 @@ namespace {
 
 constexpr std::uint32_t kMostRecordBytes = 65536;  // whatever comes: more is no size, but garbage
 constexpr std::int32_t kMostRows = 255;            // a request has one byte for each
-constexpr std::uint32_t kMatrixFlags = BARHATCH_FNC1_SECOND | BARHATCH_MAY_GROW;
+constexpr std::uint32_t kDeviceMatrixFlags = BARHATCH_FNC1_SECOND | BARHATCH_MAY_GROW;
+constexpr std::uint32_t kMatrixFlags = kDeviceMatrixFlags | BARHATCH_GS_SEPARATORS |
+                                       BARHATCH_LOOSE_END | BARHATCH_INDUSTRY_144 | BARHATCH_MASK |
+                                       BARHATCH_READER_PROGRAMMING;
 constexpr std::uint32_t kFlags = kMatrixFlags | BARHATCH_QUIET_INSIDE | BARHATCH_PERMIT |
                                  BARHATCH_NO_PROOF | BARHATCH_ADD_START_STOP;
 constexpr std::int32_t kEveryWant = 63;
-constexpr double kMostQuietModules = 1000.0;
+constexpr std::int32_t kMostShape = BARHATCH_RECTANGLE | BARHATCH_DMRE;
+constexpr std::int32_t kNoShape = 3;
+constexpr double kMostQuiet = 1000.0;
 constexpr double kMostLength = 1e150;  // whose square still is a number
 constexpr double kUsualRatio = 3.0;
 
@@ -29,9 +36,17 @@ struct ComingField {
 };
 
 constexpr ComingField<std::int32_t> kComingIntegers[] = {
-    {&BarhatchJob::eci, "eci"},         {&BarhatchJob::shape, "shape"},
-    {&BarhatchJob::profile, "profile"}, {&BarhatchJob::dots_per_module, "dots_per_module"},
+    {&BarhatchJob::profile, "profile"},
+    {&BarhatchJob::dots_per_module, "dots_per_module"},
     {&BarhatchJob::order, "order"},
+    {&BarhatchJob::part_reserved, "part_reserved"},
+};
+
+// What a Data Matrix by the book has and no other mark.
+constexpr ComingField<std::int32_t> kPublishedMatrixIntegers[] = {
+    {&BarhatchJob::eci, "eci"},         {&BarhatchJob::shape, "shape"},
+    {&BarhatchJob::part, "part"},       {&BarhatchJob::parts, "parts"},
+    {&BarhatchJob::part_id, "part_id"},
 };
 
 constexpr ComingField<double> kComingLengths[] = {
@@ -79,10 +94,7 @@ bool IsPattern(std::int32_t pattern) {
   return pattern >= BARHATCH_SCAN_LINES && pattern <= BARHATCH_POINTS && pattern != 4;
 }
 
-bool IsInput(std::int32_t input) {
-  return input == BARHATCH_UTF8 || input == BARHATCH_BYTES || input == BARHATCH_ESCAPED ||
-         input == BARHATCH_UNITS;
-}
+bool IsInput(std::int32_t input) { return input >= BARHATCH_UTF8 && input <= BARHATCH_CODEWORDS; }
 
 std::int32_t Refuse(std::int32_t status, const char* sentence, Message& message) {
   message << sentence;
@@ -107,12 +119,6 @@ std::int32_t CheckSymbology(const BarhatchJob& job, Message& message) {
     message << name->name << " is no type of the device; conformance PUBLISHED writes it";
     return BARHATCH_BAD_OPTION;
   }
-  if (job.conformance == BARHATCH_PUBLISHED && IsMatrix(job)) {
-    message
-        << name->name
-        << " by the book is not in this version; conformance DEVICE writes it as the device does";
-    return BARHATCH_BAD_OPTION;
-  }
   return BARHATCH_OK;
 }
 
@@ -127,13 +133,81 @@ std::int32_t CheckComing(const BarhatchJob& job, const ComingField<Number> (&fie
   return BARHATCH_OK;
 }
 
+std::int32_t CheckDeviceMatrix(const BarhatchJob& job, Message& message) {
+  if (job.envelope != 0 && job.envelope != 5 && job.envelope != 6) {
+    return RefuseNumber("envelope", job.envelope, " is none of a device mark: 0, 5 and 6", message);
+  }
+  if ((job.flags & kMatrixFlags & ~kDeviceMatrixFlags) == 0) return BARHATCH_OK;
+  return Refuse(BARHATCH_BAD_OPTION,
+                "of the flags of Data Matrix a device mark has FNC1_SECOND "
+                "and MAY_GROW",
+                message);
+}
+
+std::int32_t CheckParts(const BarhatchJob& job, Message& message) {
+  const bool isNone = job.part == 0 && job.parts == 0 && job.part_id == 0;
+  const bool isOne = job.parts >= 2 && job.parts <= kMostParts && job.part >= 1 &&
+                     job.part <= job.parts && job.part_id >= 0 &&
+                     job.part_id <= kLastIdentification;
+  if (isNone || isOne) return BARHATCH_OK;
+  return Refuse(BARHATCH_BAD_OPTION, "parts are 2 to 16, part is 1 to parts, part_id 0 to 64515",
+                message);
+}
+
+bool HasMacro(const BarhatchJob& job) {
+  return job.envelope == BARHATCH_ENVELOPE_05 || job.envelope == BARHATCH_ENVELOPE_06;
+}
+
+// What a symbol begins with: one of them.
+std::int32_t CheckHeads(const BarhatchJob& job, Message& message) {
+  const int heads = (HasMacro(job) ? 1 : 0) + (job.parts != 0 ? 1 : 0) +
+                    ((job.flags & BARHATCH_READER_PROGRAMMING) != 0 ? 1 : 0);
+  if (heads > 1) {
+    return Refuse(BARHATCH_BAD_OPTION,
+                  "a macro envelope, READER_PROGRAMMING and parts exclude each other", message);
+  }
+  const bool isProgramming = (job.flags & BARHATCH_READER_PROGRAMMING) != 0;
+  if (!isProgramming || (job.flags & BARHATCH_FNC1_SECOND) == 0) return BARHATCH_OK;
+  return Refuse(BARHATCH_BAD_OPTION, "READER_PROGRAMMING and FNC1_SECOND exclude each other",
+                message);
+}
+
+std::int32_t CheckCodewords(const BarhatchJob& job, Message& message) {
+  constexpr std::uint32_t kFlagsOfCodewords = BARHATCH_MAY_GROW | BARHATCH_INDUSTRY_144;
+  const bool isPlain = job.envelope == 0 && job.eci == 0 && job.parts == 0 &&
+                       (job.flags & kMatrixFlags & ~kFlagsOfCodewords) == 0;
+  if (job.input != BARHATCH_CODEWORDS || isPlain) return BARHATCH_OK;
+  return Refuse(BARHATCH_BAD_OPTION,
+                "of the options of Data Matrix CODEWORDS go with sizes and INDUSTRY_144 alone",
+                message);
+}
+
+std::int32_t CheckPublishedMatrix(const BarhatchJob& job, Message& message) {
+  const std::int32_t envelope = job.envelope;
+  const bool isEnvelope = envelope == 0 || HasMacro(job) || envelope == BARHATCH_ENVELOPE_12 ||
+                          envelope == BARHATCH_ENVELOPE_DD;
+  if (!isEnvelope) {
+    return RefuseNumber("envelope", envelope, " is none: 0, 5, 6, 12 and 100", message);
+  }
+  if (job.shape < 0 || job.shape > kMostShape || job.shape == kNoShape) {
+    return RefuseNumber("shape", job.shape, " is none: 0, 1, 2, 4 and 5", message);
+  }
+  if (job.eci < 0 || job.eci > kLastEci) {
+    return RefuseNumber("eci", job.eci, " is none: 0 to 999999", message);
+  }
+  std::int32_t status = CheckParts(job, message);
+  if (status == BARHATCH_OK) status = CheckHeads(job, message);
+  return status == BARHATCH_OK ? CheckCodewords(job, message) : status;
+}
+
 std::int32_t CheckMatrixOptions(const BarhatchJob& job, Message& message) {
   const bool isInRange =
       job.rows >= 0 && job.rows <= kMostRows && job.columns >= 0 && job.columns <= kMostRows;
   if (!isInRange) return Refuse(BARHATCH_BAD_OPTION, "rows and columns are 0 to 255", message);
-  if (job.envelope != 0 && job.envelope != 5 && job.envelope != 6) {
-    return RefuseNumber("envelope", job.envelope, " is not in this version: 0, 5 and 6", message);
-  }
+  const std::int32_t status = job.conformance == BARHATCH_DEVICE
+                                  ? CheckDeviceMatrix(job, message)
+                                  : CheckPublishedMatrix(job, message);
+  if (status != BARHATCH_OK) return status;
   const bool hasFnc1 = (job.flags & BARHATCH_FNC1_SECOND) != 0;
   if (!hasFnc1 || job.envelope == 0) return BARHATCH_OK;
   return Refuse(BARHATCH_BAD_OPTION, "an envelope and FNC1_SECOND exclude each other", message);
@@ -160,6 +234,9 @@ std::int32_t CheckLinearOptions(const BarhatchJob& job, Message& message) {
   const bool isOfMatrix =
       job.rows != 0 || job.columns != 0 || job.envelope != 0 || (job.flags & kMatrixFlags) != 0;
   if (!isOfMatrix) return BARHATCH_OK;
+  if ((job.flags & kMatrixFlags & ~kDeviceMatrixFlags) != 0) {
+    return Refuse(BARHATCH_BAD_OPTION, "a flag is set that is for Data Matrix alone", message);
+  }
   return Refuse(BARHATCH_BAD_OPTION,
                 "rows, columns, envelope, FNC1_SECOND and MAY_GROW are for Data Matrix", message);
 }
@@ -192,9 +269,38 @@ std::int32_t CheckSchemeOf(const BarhatchJob& job, Message& message) {
   return Refuse(BARHATCH_BAD_OPTION, "ADD_START_STOP is for Codabar by the book", message);
 }
 
+// What is for a Data Matrix by the book alone.
+std::int32_t CheckForeign(const BarhatchJob& job, Message& message) {
+  if (IsMatrix(job) && job.conformance == BARHATCH_PUBLISHED) return BARHATCH_OK;
+  if (job.input == BARHATCH_CODEWORDS) {
+    return Refuse(BARHATCH_BAD_OPTION, "CODEWORDS are for Data Matrix by the book", message);
+  }
+  for (const ComingField<std::int32_t>& field : kPublishedMatrixIntegers) {
+    if (job.*field.field == 0) continue;
+    message << field.name << " is for Data Matrix by the book: it must be 0";
+    return BARHATCH_BAD_OPTION;
+  }
+  return BARHATCH_OK;
+}
+
+// FNC1 in front is the element string's own, and so are all its characters.
+std::int32_t CheckElements(const BarhatchJob& job, Message& message) {
+  if (job.input != BARHATCH_GS1) return BARHATCH_OK;
+  const bool isCode128 = job.symbology >= BARHATCH_CODE_128 && job.symbology <= BARHATCH_CODE_128_C;
+  if (job.conformance == BARHATCH_DEVICE || !(isCode128 || IsMatrix(job))) {
+    return Refuse(BARHATCH_BAD_OPTION,
+                  "element strings of GS1 are for Code 128 and Data Matrix by the book", message);
+  }
+  const bool hasOther = (job.flags & (BARHATCH_FNC1_SECOND | BARHATCH_MASK)) != 0;
+  if (!hasOther && job.envelope == 0 && job.eci == 0) return BARHATCH_OK;
+  return Refuse(BARHATCH_BAD_OPTION,
+                "an element string of GS1 has no ECI, envelope, mask or FNC1 in second position",
+                message);
+}
+
 std::int32_t CheckChoices(const BarhatchJob& job, Message& message) {
   if (!IsInput(job.input)) {
-    return RefuseNumber("input", job.input, " is not in this version: 0, 1, 3 and 4", message);
+    return RefuseNumber("input", job.input, " is none: 0 to 5", message);
   }
   if ((job.flags & ~kFlags) != 0) {
     return Refuse(BARHATCH_BAD_OPTION, "a flag is set that this version does not have", message);
@@ -272,6 +378,8 @@ std::int32_t CheckOptions(const BarhatchJob& job, Message message) {
   }
   if (status == BARHATCH_OK) status = CheckAddonGap(job, message);
   if (status == BARHATCH_OK) status = CheckSchemeOf(job, message);
+  if (status == BARHATCH_OK) status = CheckForeign(job, message);
+  if (status == BARHATCH_OK) status = CheckElements(job, message);
   if (status == BARHATCH_OK) status = CheckComing(job, kComingIntegers, message);
   if (status == BARHATCH_OK) status = CheckComing(job, kComingLengths, message);
   if (status == BARHATCH_OK) status = CheckPointers(job, message);
@@ -286,7 +394,7 @@ std::int32_t CheckGeometry(const BarhatchJob& job, Message message) {
     message << length.name << (isLarge ? " is above 1e150" : " must be finite and not below 0");
     return BARHATCH_BAD_GEOMETRY;
   }
-  if (!(IsFinite(job.quiet) && job.quiet <= kMostQuietModules)) {
+  if (!(IsFinite(job.quiet) && job.quiet <= kMostQuiet)) {
     return Refuse(BARHATCH_BAD_GEOMETRY, "quiet must be finite and at most 1000 modules", message);
   }
   if (Wants(job, BARHATCH_WANT_STROKES) && job.gap == 0.0 && job.pattern != BARHATCH_POINTS) {
@@ -308,6 +416,7 @@ bool HasSize(const BarhatchJob& job) {
 DeviationSet InForce(const BarhatchJob& job) {
   if (job.conformance == BARHATCH_DEVICE) return DeviationSet::All();
   DeviationSet inForce;
+  if ((job.flags & BARHATCH_INDUSTRY_144) != 0) inForce.Add(Deviation::kDDM_1);
   if ((job.flags & BARHATCH_PERMIT) != 0) {
     inForce.Add(Deviation::kDEAN_2);
     inForce.Add(Deviation::kDEAN_3);
@@ -349,6 +458,12 @@ bool DrawsQuietZone(const BarhatchJob& job) {
 
 std::int32_t DrawnQuietModulesOf(const BarhatchJob& job) {
   return DrawsQuietZone(job) ? QuietModulesOf(job) : kNoQuietZone;
+}
+
+Shape ShapeOf(const BarhatchJob& job) {
+  constexpr Shape kShapes[] = {Shape::kSquare, Shape::kRectangle,  Shape::kAny,
+                               Shape::kSquare, Shape::kAnyAndDmre, Shape::kDmreRectangle};
+  return kShapes[job.shape];
 }
 
 }  // namespace barhatch

@@ -3,6 +3,7 @@
 #define BARHATCH_MARK_JOBRECORD_H
 
 #include "barhatch_mark.h"
+#include "datamatrix/PublishedSizes.h"
 #include "job/Deviations.h"
 #include "job/Job.h"
 #include "mark/Message.h"
@@ -28,6 +29,7 @@ LinearOptions LinearOptionsOf(const BarhatchJob& job);
 std::int32_t QuietModulesOf(const BarhatchJob& job);
 double RatioOf(const BarhatchJob& job);
 Header HeaderOf(const BarhatchJob& job);
+Shape ShapeOf(const BarhatchJob& job);
 
 // What to warn of where the quiet zone is smaller than the standard's.
 std::uint32_t SmallQuietZoneWarning(const BarhatchJob& job);

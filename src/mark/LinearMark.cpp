@@ -4,7 +4,8 @@
 #include "mark/JobRecord.h"
 #include "mark/Mark.h"
 #include "mark/MarkedSymbol.h"
-#include "mark/Reading.h"
+#include "mark/Proof.h"
+#include "mark/TextTokens.h"
 #include "symbologies/SymbologyReaders.h"
 #include "symbologies/SymbologyTable.h"
 
@@ -14,6 +15,7 @@ namespace {
 
 constexpr std::size_t kFewestDigitsOfItf = 6;
 constexpr char kGs = '\x1D';
+constexpr std::size_t kMostGs1Tokens = 1 + kMostGs1Characters;  // behind the first FNC1
 
 // What stands for a character that no byte is, until the check of the text refuses it: outside of
 // Code 128 no symbology takes it.
@@ -83,21 +85,18 @@ void WarnOfDigits(std::size_t digits, std::uint32_t& warnings) {
 
 // The letters of the symbol alone, without the quiet zone that is drawn.
 Refusal ReadBack(const BarhatchJob& job, const LinearSymbol& drawn, const PreparedText& text,
-                 MarkedSymbol& symbol) {
+                 DeviationSet met, MarkedSymbol& symbol) {
   const auto quiet = static_cast<std::size_t>(drawn.quietLeft + drawn.quietRight);
   const std::size_t letters = drawn.length - quiet;
   symbol.reading = static_cast<char*>(symbol.memory.Allocate(letters + 1));
   symbol.values = static_cast<std::uint8_t*>(symbol.memory.Allocate(letters));
-  if (symbol.reading == nullptr || symbol.values == nullptr) return {Reason::kNoMemory, -1, 0};
+  if (symbol.reading == nullptr || symbol.values == nullptr) return {Reason::kNoMemory};
   SymbolReading reading = {symbol.reading, 0, symbol.values, 0};
   symbol.isRead = ReadSymbol(job.symbology, LinearOptionsOf(job).check,
                              drawn.letters + drawn.quietLeft, letters, reading);
   symbol.readingLength = reading.textLength;
   symbol.valuesCount = reading.valuesCount;
-  const bool isText = symbol.isRead && IsReadingOfLinear(text.reading, {text.room, text.length},
-                                                         {symbol.reading, symbol.readingLength});
-  if (!isText) symbol.warnings |= BARHATCH_W_UNREADABLE;
-  return {};
+  return JudgeReading(job, ShowsItsText(job.symbology, text, symbol), met, symbol.warnings);
 }
 
 // What stands beside the symbol where it is not the reading.
@@ -114,7 +113,7 @@ Refusal KeepForPeople(const PreparedText& text, MarkedSymbol& symbol) {
 Refusal DrawAsTheDevice(const BarhatchJob& job, const PreparedText& text, const Memory& memory,
                         Conformance& how, LinearSymbol& drawn) {
   const Block<char> copy(memory, text.length + 1);
-  if (copy.get() == nullptr) return {Reason::kNoMemory, -1, 0};
+  if (copy.get() == nullptr) return {Reason::kNoMemory};
   std::memcpy(copy.get(), text.room, text.length + 1);
   const LinearJob linear = {job.symbology, copy.get(), text.length, DrawnQuietModulesOf(job)};
   return DrawLinear(linear, 0, memory, how, drawn);
@@ -130,13 +129,13 @@ void Describe(const BarhatchJob& job, const PreparedText& text, MarkedSymbol& sy
 }
 
 Refusal Finish(const BarhatchJob& job, const LinearSymbol& drawn, const PreparedText& text,
-               MarkedSymbol& symbol) {
+               DeviationSet met, MarkedSymbol& symbol) {
   symbol.letters = drawn.letters;
   symbol.columns = static_cast<int>(drawn.length);
   symbol.drawnQuiet = {drawn.quietLeft, drawn.quietRight, 0, 0};
   Describe(job, text, symbol);
   const Refusal refusal = KeepForPeople(text, symbol);
-  return refusal.IsRefused() ? refusal : ReadBack(job, drawn, text, symbol);
+  return refusal.IsRefused() ? refusal : ReadBack(job, drawn, text, met, symbol);
 }
 
 Refusal MakeAsTheDevice(const BarhatchJob& job, const InputText& text, std::size_t units,
@@ -151,7 +150,7 @@ Refusal MakeAsTheDevice(const BarhatchJob& job, const InputText& text, std::size
   const PreparedText whole = GivenText(*RowOf(job.symbology), bytes.get(), length);
   LinearSymbol drawn;
   const Refusal refusal = DrawAsTheDevice(job, whole, symbol.memory, how, drawn);
-  return refusal.IsRefused() ? refusal : Finish(job, drawn, whole, symbol);
+  return refusal.IsRefused() ? refusal : Finish(job, drawn, whole, how.Met(), symbol);
 }
 
 Refusal MakeCode128(const BarhatchJob& job, const TokenText& text, char* room,
@@ -162,7 +161,7 @@ Refusal MakeCode128(const BarhatchJob& job, const TokenText& text, char* room,
   LinearSymbol drawn;
   const Refusal refusal = DrawCode128(row, DrawnQuietModulesOf(job), text, symbol.memory, drawn);
   if (refusal.IsRefused()) return refusal;
-  return Finish(job, drawn, GivenText(row, room, ReadingOfCode128(text, room)), symbol);
+  return Finish(job, drawn, GivenText(row, room, ReadingOfCode128(text, room)), {}, symbol);
 }
 
 Refusal MakeOfTokens(const BarhatchJob& job, const TokenText& text, Conformance& how,
@@ -176,7 +175,7 @@ Refusal MakeOfTokens(const BarhatchJob& job, const TokenText& text, Conformance&
   LinearSymbol drawn;
   const Refusal refusal = DrawPublished(row, LinearOptionsOf(job), DrawnQuietModulesOf(job),
                                         symbol.memory, how, prepared, drawn);
-  return refusal.IsRefused() ? refusal : Finish(job, drawn, prepared, symbol);
+  return refusal.IsRefused() ? refusal : Finish(job, drawn, prepared, how.Met(), symbol);
 }
 
 // A function that the symbology lacks is refused as what it is.
@@ -193,11 +192,13 @@ Refusal MakeLinearSymbol(const BarhatchJob& job, const InputText& text, std::siz
                          Conformance& how, MarkedSymbol& symbol) {
   if (count > kLongestLinearText) return {Reason::kLength, -1, FigureOf(count)};
   if (job.conformance == BARHATCH_DEVICE) return MakeAsTheDevice(job, text, count, how, symbol);
-  const Block<Token> tokens(symbol.memory, count + 1);
-  if (tokens.get() == nullptr) return {Reason::kNoMemory};
-  text.CopyTokens(tokens.get(), count);
-  const TokenText given = {tokens.get(), count};
-  return AsGiven(MakeOfTokens(job, given, how, symbol), given);
+  TextTokens tokens(symbol.memory);
+  const Refusal refusal = tokens.Read(job, text, count, symbol);
+  if (refusal.IsRefused()) return refusal;
+  if (job.input == BARHATCH_GS1 && tokens.Get().length > kMostGs1Tokens) {
+    return {Reason::kTooManyElements, -1, FigureOf(tokens.Get().length - 1)};
+  }
+  return AsGiven(MakeOfTokens(job, tokens.Get(), how, symbol), tokens.Get());
 }
 
 }  // namespace barhatch

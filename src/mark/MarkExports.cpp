@@ -59,32 +59,11 @@ bool LosesElements(const BarhatchJob& job, const MarkedSymbol& symbol) {
   return RatioOf(job) <= 1.0 && HasWideElements(symbol);
 }
 
-// Digits that are refused together; any other character alone.
-constexpr std::size_t kUpcEDigits = 6;
-constexpr std::size_t kUpcADigits = 11;
-
-// Characters that are refused together, from the position on; 0 for all that are left.
-std::size_t RefusedTogether(const Refusal& refusal) {
-  switch (refusal.reason) {
-    case Reason::kUpcEForm:
-      return kUpcEDigits;
-    case Reason::kNoUpcE:
-      return kUpcADigits;
-    case Reason::kAddonDigits:
-      return 0;
-    case Reason::kNotStandard:  // the number system, or an add-on to the end
-      return refusal.position == 0 ? 1 : 0;
-    default:
-      return 1;
-  }
-}
-
 TextPlace PlaceOf(const InputText& text, const Refusal& refusal) {
   const auto position = static_cast<std::size_t>(refusal.position);
-  const std::size_t count = RefusedTogether(refusal);
   const TextPlace first = text.PlaceOf(position);
-  if (count == 0) return {first.begin, text.Length() - first.begin};
-  const TextPlace last = text.PlaceOf(position + count - 1);
+  if (refusal.extent == 0) return {first.begin, 0};
+  const TextPlace last = text.PlaceOf(position + static_cast<std::size_t>(refusal.extent) - 1);
   return {first.begin, last.begin + last.extent - first.begin};
 }
 
@@ -146,7 +125,7 @@ std::int32_t MarkJob(const BarhatchJob* record, BarhatchResult& result) {
     KeepRefusal(result);
     SayRefusal(job, refusal, result.position, Message(result.message));
   } else {
-    SayWarning(result.warnings, Message(result.message));
+    SayWarning(job, result.warnings, Message(result.message));
   }
   return StatusOf(refusal.reason);
 }

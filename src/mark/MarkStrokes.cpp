@@ -29,9 +29,9 @@ MarkStrokes::MarkStrokes(const BarhatchJob& job, const MarkedSymbol& symbol, con
     : job_(job), extents_(extents), filling_(FillingOf(job)), rows_(RowsOf(job, symbol, extents)) {}
 
 Refusal MarkStrokes::Count(std::size_t& doubles) {
-  if (rows_.HasFailed()) return {Reason::kNoMemory, -1, 0};
+  if (rows_.HasFailed()) return {Reason::kNoMemory};
   const DoubleCount most = MostDoubles(rows_, filling_);
-  if (most == kUncountable) return {Reason::kTooManyStrokes, -1, 0};
+  if (most == kUncountable) return {Reason::kTooManyStrokes};
   doubles = static_cast<std::size_t>(most);
   return {};
 }
@@ -39,13 +39,13 @@ Refusal MarkStrokes::Count(std::size_t& doubles) {
 Refusal MarkStrokes::Write(double* room, std::size_t doubles, BarhatchResult& result) {
   CoordinateList coordinates(room, doubles);
   Fill(rows_, filling_, coordinates);
-  if (coordinates.Count() == 0) return {Reason::kNothingToMark, -1, 0};
+  if (coordinates.Count() == 0) return {Reason::kNothingToMark};
   if (extents_.shiftX != 0.0) {
     Translate(room, coordinates.Count(), extents_.shiftX, extents_.shiftY);
   }
   Describe(room, coordinates.Count(), result);
   const bool isFinite = result.seconds <= std::numeric_limits<double>::max();
-  return {isFinite ? Reason::kNone : Reason::kGeometry, -1, 0};
+  return {isFinite ? Reason::kNone : Reason::kGeometry};
 }
 
 void MarkStrokes::Describe(const double* strokes, std::size_t doubles,

@@ -17,7 +17,7 @@ class MarkStrokes {
   // REQUIRES: a checked job that wants strokes; all three outlive the object.
   MarkStrokes(const BarhatchJob& job, const MarkedSymbol& symbol, const Extents& extents);
 
-  // The most doubles that the strokes take, or why there are none.
+  // The most doubles that the strokes take, or why there is no such number.
   Refusal Count(std::size_t& doubles);
 
   // Writes the strokes, and into the result what they are and how long. REQUIRES: Count was not

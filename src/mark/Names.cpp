@@ -6,8 +6,8 @@ namespace barhatch {
 
 namespace {
 
-constexpr SymbologyName kDataMatrix = {"Data Matrix",
-                                       "bytes; characters above 255 designate an ECI", nullptr};
+constexpr SymbologyName kDataMatrix = {"Data Matrix", "all characters, and bytes",
+                                       "bytes; characters above 255 designate an ECI"};
 
 }  // namespace
 

@@ -57,7 +57,11 @@ static_assert(LiesAt(offsetof(BarhatchJob, allocate), 232, 224), "");
 static_assert(LiesAt(offsetof(BarhatchJob, release), 240, 228), "");
 static_assert(LiesAt(offsetof(BarhatchJob, context), 248, 232), "");
 static_assert(LiesAt(offsetof(BarhatchJob, reserved), 256, 236), "");
-static_assert(LiesAt(sizeof(BarhatchJob), 264, 240), "");
+static_assert(LiesAt(offsetof(BarhatchJob, part), 264, 240), "");
+static_assert(LiesAt(offsetof(BarhatchJob, parts), 268, 244), "");
+static_assert(LiesAt(offsetof(BarhatchJob, part_id), 272, 248), "");
+static_assert(LiesAt(offsetof(BarhatchJob, part_reserved), 276, 252), "");
+static_assert(LiesAt(sizeof(BarhatchJob), 280, 256), "");
 
 static_assert(LiesAt(offsetof(BarhatchResult, size), 0, 0), "");
 static_assert(LiesAt(offsetof(BarhatchResult, status), 4, 4), "");

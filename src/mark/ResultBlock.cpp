@@ -47,7 +47,8 @@ std::size_t ModulesOf(const MarkedSymbol& symbol) {
 
 BlockParts PartsOf(const BarhatchJob& job, const MarkedSymbol& symbol, DeviationSet met) {
   BlockParts parts;
-  if (Wants(job, BARHATCH_WANT_MODULES)) parts.modules = ModulesOf(symbol);
+  const bool isDrawn = symbol.letters != nullptr;  // a mask is not
+  if (isDrawn && Wants(job, BARHATCH_WANT_MODULES)) parts.modules = ModulesOf(symbol);
   if (Wants(job, BARHATCH_WANT_VALUES)) parts.values = symbol.valuesCount;
   if (Wants(job, BARHATCH_WANT_READING) && symbol.isRead) parts.reading = symbol.readingLength + 1;
   if (parts.reading != 0 && symbol.people != nullptr) parts.people = symbol.peopleLength + 1;
@@ -127,7 +128,7 @@ Refusal FinishBlock(const BarhatchJob& job, const MarkedSymbol& symbol, Deviatio
   }
   std::size_t bytes = 0;
   void* const block = parts.Sum(bytes) ? symbol.memory.Allocate(bytes) : nullptr;
-  if (block == nullptr) return {Reason::kNoMemory, -1, 0};
+  if (block == nullptr) return {Reason::kNoMemory};
   const BlockHead head = {symbol.memory.release, symbol.memory.context};
   std::memcpy(block, &head, sizeof head);
   result.block = block;
@@ -150,8 +151,9 @@ Refusal FinishResult(const BarhatchJob& job, const MarkedSymbol& symbol, Deviati
 
   const Extents extents = ExtentsOf(job, symbol);
   DescribeExtents(job, symbol, extents, result);
-  if (!IsMarkable(result)) return {Reason::kGeometry, -1, 0};
-  if (!Wants(job, BARHATCH_WANT_STROKES)) return FinishBlock(job, symbol, met, nullptr, result);
+  if (!IsMarkable(result)) return {Reason::kGeometry};
+  const bool hasStrokes = symbol.letters != nullptr && Wants(job, BARHATCH_WANT_STROKES);
+  if (!hasStrokes) return FinishBlock(job, symbol, met, nullptr, result);
   MarkStrokes strokes(job, symbol, extents);
   return FinishBlock(job, symbol, met, &strokes, result);
 }

@@ -1,10 +1,13 @@
 #include "mark/Sentences.h"
 
 #include "datamatrix/DataMatrix.h"
+#include "datamatrix/PublishedSizes.h"
 #include "job/Token.h"
 #include "mark/ElementSentences.h"
 #include "mark/InputText.h"
+#include "mark/JobRecord.h"
 #include "mark/Names.h"
+#include "mark/TextTokens.h"
 #include "symbologies/Code128Shortest.h"
 #include "symbologies/EanUpcElements.h"
 #include "symbologies/SymbologyTable.h"
@@ -48,6 +51,7 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kGeometry, BARHATCH_BAD_GEOMETRY},
     {Reason::kNothingToMark, BARHATCH_NOTHING_TO_MARK},
     {Reason::kTooManyStrokes, BARHATCH_BAD_GEOMETRY},
+    {Reason::kProof, BARHATCH_PROOF_FAILED},
     {Reason::kUnknownAi, BARHATCH_UNKNOWN_AI},
     {Reason::kAiTooLong, BARHATCH_BAD_AI_DATA},
     {Reason::kAiTooShort, BARHATCH_BAD_AI_DATA},
@@ -58,6 +62,10 @@ constexpr ReasonStatus kStatuses[] = {
     {Reason::kAiValue, BARHATCH_BAD_AI_DATA},
     {Reason::kAiRepeated, BARHATCH_BAD_AI_DATA},
     {Reason::kGs1Syntax, BARHATCH_BAD_SYNTAX},
+    {Reason::kTooManyElements, BARHATCH_TOO_LONG},
+    {Reason::kFnc1Place, BARHATCH_BAD_SYNTAX},
+    {Reason::kMaskEscape, BARHATCH_BAD_SYNTAX},
+    {Reason::kNoSuchByte, BARHATCH_BAD_CHARACTER},
     {Reason::kNoMemory, BARHATCH_NO_MEMORY},
 };
 
@@ -86,12 +94,16 @@ constexpr WarningSentence kWarnings[] = {
     {BARHATCH_W_QUIET_ZONE, "the quiet zone is smaller than the standard's"},
     {BARHATCH_W_PARTNERS,
      "an application identifier lacks one that it needs, or has one that it does not go with"},
-    {BARHATCH_W_ECI, "a character above 255 is no data here: it designates an ECI"},
+    {BARHATCH_W_ECI, "a character above 255 designates ECI 26, UTF-8: not every reader heeds it"},
+    {BARHATCH_W_144,
+     "144x144 in the order of ISO/IEC 16022: some readers know the industry's alone, INDUSTRY_144"},
     {BARHATCH_W_FEW_DIGITS,
      "fewer than 6 digits of Interleaved 2 of 5: readers may not accept them"},
     {BARHATCH_W_ELEMENT_ORDER, "an element of variable length at the end saves a separator"},
     {BARHATCH_W_LEADING_ZERO, "a 0 was added in front: Interleaved 2 of 5 writes pairs of digits"},
 };
+
+constexpr char kDeviceEci[] = "a character above 255 is no data here: it designates an ECI";
 
 template <typename Wanted>
 const SymbolSize* FirstSize(const Wanted& isWanted) {
@@ -196,9 +208,36 @@ void SayTooSmall(const BarhatchJob& job, const Refusal& refusal, Message& messag
   if (mayNot && WouldGrow(job, refusal.figure)) message << "; MAY_GROW allows a larger one";
 }
 
+// By the book: what the size holds, and one that would do.
+void SayHeld(const BarhatchJob& job, const Refusal& refusal, Message& message) {
+  message << refusal.figure << (refusal.figure == 1 ? " codeword, " : " codewords, ");
+  SaySize(job.rows, job.columns, message)
+      << " holds " << FindSize(job.rows, job.columns)->dataCodewords;
+  const SymbolSize* const grown = GrownSize(refusal.figure, job.rows, job.columns);
+  const SymbolSize* const other = SmallestOf(Shape::kAnyAndDmre, refusal.figure);
+  const SymbolSize* const next = grown != nullptr ? grown : other;
+  if (next == nullptr) return;
+  message << "; ";
+  SaySize(next->symbolRows, next->symbolColumns, message)
+      << (grown != nullptr ? " is the next of its kind that does" : " does");
+}
+
+void SayTooManyCodewords(const BarhatchJob& job, const Refusal& refusal, Message& message) {
+  if (job.conformance == BARHATCH_DEVICE) {
+    message << "the text takes more than the " << kMaxDataCodewords
+            << " codewords of the largest size";
+    return;
+  }
+  const SymbolSize& largest = LargestOf(ShapeOf(job));
+  message << refusal.figure << " codewords, the largest size of the shape, ";
+  SaySize(largest.symbolRows, largest.symbolColumns, message)
+      << ", holds " << largest.dataCodewords;
+}
+
 void SayNoSuchSize(const BarhatchJob& job, Message& message) {
   SaySize(job.rows, job.columns, message) << " is no size";
-  const SymbolSize* const next = NextSize(job);
+  const SymbolSize* const next =
+      job.conformance == BARHATCH_DEVICE ? NextSize(job) : NextPublishedSize(job.rows, job.columns);
   if (next == nullptr) return;
   message << "; ";
   SaySize(next->symbolRows, next->symbolColumns, message) << " is the next";
@@ -310,13 +349,31 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
     case Reason::kTooManyValues:
       message << refusal.figure << " symbol characters, at most " << kMostShortestValues;
       break;
+    case Reason::kTooManyElements:
+      message << refusal.figure << " data characters and separators, GS1-128 has at most "
+              << kMostGs1Characters;
+      break;
     case Reason::kTooManyCodewords:
-      message << "the text takes more than the " << kMaxDataCodewords
-              << " codewords of the largest size";
+      SayTooManyCodewords(job, refusal, message);
       break;
     case Reason::kSizeTooSmall:
     case Reason::kNoPermissionToGrow:
-      SayTooSmall(job, refusal, message);
+      if (job.conformance == BARHATCH_DEVICE) {
+        SayTooSmall(job, refusal, message);
+      } else {
+        SayHeld(job, refusal, message);
+      }
+      break;
+    case Reason::kFnc1Place:
+      message << "FNC1 in second position stands behind a letter or two digits";
+      break;
+    case Reason::kMaskEscape:
+      message << "character " << place << ": a backslash of a mask stands in front of # A ? or \\";
+      break;
+    case Reason::kNoSuchByte:
+      message << "character " << place << " (";
+      message.Code(refusal.figure)
+          << ") has no byte under ECI " << job.eci << "; BYTES takes those of the host";
       break;
     case Reason::kNoSuchSize:
       SayNoSuchSize(job, message);
@@ -329,6 +386,9 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
       break;
     case Reason::kTooManyStrokes:
       message << "the gap asks for more strokes than a mark can have";
+      break;
+    case Reason::kProof:
+      message << "the symbol does not decode to the text: a defect of the library";
       break;
     case Reason::kUnknownAi:
     case Reason::kAiTooLong:
@@ -351,12 +411,12 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
   }
 }
 
-void SayWarning(std::uint32_t warnings, Message message) {
+void SayWarning(const BarhatchJob& job, std::uint32_t warnings, Message message) {
   for (const WarningSentence& row : kWarnings) {
-    if ((warnings & row.bit) != 0) {
-      message << row.sentence;
-      return;
-    }
+    if ((warnings & row.bit) == 0) continue;
+    const bool isOfDevice = row.bit == BARHATCH_W_ECI && job.conformance == BARHATCH_DEVICE;
+    message << (isOfDevice ? kDeviceEci : row.sentence);
+    return;
   }
 }
 

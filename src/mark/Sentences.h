@@ -19,7 +19,7 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
                 Message message);
 
 // The sentence of the gravest warning; nothing where there is none.
-void SayWarning(std::uint32_t warnings, Message message);
+void SayWarning(const BarhatchJob& job, std::uint32_t warnings, Message message);
 
 }  // namespace barhatch
 

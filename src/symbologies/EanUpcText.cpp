@@ -138,10 +138,12 @@ Refusal ReadUpcE(const Characters& main, bool hasCheckDigit, Conformance& how, c
   if (main.length < kUpcADigits) {
     std::memcpy(upcE + inFront, main.text, kUpcEDigits - inFront);
   } else if (!SuppressUpcA(main.text, upcE)) {
-    return {Reason::kNoUpcE, 0, 0};
+    return {Reason::kNoUpcE, 0, 0, kUpcADigits};
   }
   const Refusal form = CheckUpcEForm({upcE, kUpcEDigits}, how);
-  if (form.IsRefused()) return {form.reason, form.position - At(inFront), form.figure};
+  if (form.IsRefused()) {
+    return {form.reason, form.position - At(inFront), form.figure, form.extent};
+  }
   return hasCheckDigit ? VerifyCheckDigit(main, UpcECheckDigit(upcE)) : Refusal{};
 }
 
@@ -163,15 +165,16 @@ Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, Conformance& 
   const EanUpcLayout& layout = EanUpcLayoutOf(asked);
   const Parts parts = Split(layout, text);
   const Characters& addon = parts.addon;
+  const std::int32_t behindMain = At(text.length - parts.main.length);
   if (parts.hasSign && !IsAddon(layout, addon.length)) {
-    return {Reason::kAddonDigits, At(parts.main.length), FigureOf(addon.length)};
+    return {Reason::kAddonDigits, At(parts.main.length), FigureOf(addon.length), behindMain};
   }
   const EanUpcSymbol plain = PlainOf(asked);
   const MainForm* const form = FormOf(plain, parts);
   if (form == nullptr) return RefusedLength(text, parts);
   const bool isBesideEan8 = plain == EanUpcSymbol::kEan8 && addon.length != 0;
   if (isBesideEan8 && !how.Deviates(Deviation::kDEAN_2)) {
-    return {Reason::kNotStandard, At(parts.main.length), 0};
+    return {Reason::kNotStandard, At(parts.main.length), 0, behindMain};
   }
   read.symbol = WithAddon(plain, addon.length);
   const Refusal main = ReadMain(*form, parts.main, how, read.digits);

@@ -92,7 +92,7 @@ Refusal CheckUpcEForm(const Characters& text, Conformance& how) {
   if (system > '1') return {Reason::kNumberSystem, 0, static_cast<unsigned char>(system)};
   if (system == '1' && !how.Deviates(Deviation::kDEAN_3)) return {Reason::kNotStandard, 0, 0};
   if (IsSuppressedForm(text.text + 1) || how.Deviates(Deviation::kDEAN_4)) return {};
-  return {Reason::kUpcEForm, 1, RightSix(text.text)};
+  return {Reason::kUpcEForm, 1, RightSix(text.text), kUpcESixDigits};
 }
 
 void EncodeUpcE(const Characters& text, int variant, Conformance& how, SymbolWriter& out) {

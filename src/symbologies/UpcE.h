@@ -18,6 +18,7 @@ namespace barhatch {
 
 // Digits of a UPC-A number without its check digit.
 constexpr int kUpcADigits = 11;
+constexpr int kUpcESixDigits = 6;
 
 // Writes the UPC-A number that the number system and the six digits at upcE stand for, 11 digits
 // and a NUL. REQUIRES: seven digits at upcE (what follows them is not read), room for 12

@@ -53,6 +53,10 @@ int main(void) {
   FIELD(BarhatchJob, release);
   FIELD(BarhatchJob, context);
   FIELD(BarhatchJob, reserved);
+  FIELD(BarhatchJob, part);
+  FIELD(BarhatchJob, parts);
+  FIELD(BarhatchJob, part_id);
+  FIELD(BarhatchJob, part_reserved);
   SIZE(BarhatchJob);
   FIELD(BarhatchResult, size);
   FIELD(BarhatchResult, status);

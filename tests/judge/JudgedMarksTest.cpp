@@ -1,9 +1,10 @@
 // Marks by the book that an independent generator drew: a sample of what scripts/judge compares,
-// for runs without it. judged-marks.txt has a line for each: symbology, flags, text in hexadecimal
-// (- for none), and the elements from the first bar on, n and w in symbologies of two widths, else
-// their widths in modules; "refused" where there is no such mark.
+// for runs without it. judged-marks.txt has a line for each: symbology, flags, check, addon_gap,
+// text in hexadecimal (- for none), and the elements from the first bar on, n and w in symbologies
+// of two widths, else their widths in modules; "refused" where there is no such mark.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <fstream>
 #include <map>
 #include <sstream>
@@ -18,6 +19,8 @@ namespace {
 struct JudgedMark {
   std::int32_t symbology = 0;
   std::uint32_t flags = 0;
+  std::int32_t check = 0;
+  std::int32_t addonGap = 0;
   std::string text;
   std::string elements;
 };
@@ -38,7 +41,7 @@ std::vector<JudgedMark> JudgedMarks() {
     std::istringstream fields(line);
     JudgedMark mark;
     std::string hex;
-    fields >> mark.symbology >> mark.flags >> hex >> mark.elements;
+    fields >> mark.symbology >> mark.flags >> mark.check >> mark.addonGap >> hex >> mark.elements;
     mark.text = BytesOfHex(hex);
     marks.push_back(mark);
   }
@@ -54,25 +57,31 @@ std::string LettersOfTwoWidths(const BarhatchResult& result) {
   return letters;
 }
 
-// The widths of the elements in modules.
+// The widths of the elements in modules, 10 as a.
 std::string LettersOfModules(const BarhatchResult& result) {
+  static constexpr char kWidths[] = "0123456789abcdefghijklmnopqrstuvwxyz";
   std::string letters;
+  int width = 0;
   for (std::int32_t i = 0; i < result.columns; ++i) {
-    if (i == 0 || result.modules[i] != result.modules[i - 1]) letters += '0';
-    ++letters.back();
+    width = i == 0 || result.modules[i] != result.modules[i - 1] ? 1 : width + 1;
+    if (width == 1) letters += ' ';
+    letters.back() = kWidths[std::min(width, 35)];
   }
   return letters;
 }
 
 bool HasTwoWidths(std::int32_t symbology) {
   return symbology == BARHATCH_CODABAR || symbology == BARHATCH_CODE_39 ||
-         symbology == BARHATCH_CODE_11 || symbology == BARHATCH_INTERLEAVED_2_OF_5;
+         symbology == BARHATCH_CODE_11 || symbology == BARHATCH_INTERLEAVED_2_OF_5 ||
+         symbology == BARHATCH_ITF_14 || symbology == BARHATCH_CODE_39_FULL;
 }
 
 std::string ElementsOf(const JudgedMark& judged) {
   BarhatchJob job = LongJobOf(judged.symbology, judged.text, BARHATCH_PUBLISHED);
   job.input = BARHATCH_BYTES;
   job.flags = judged.flags;
+  job.check = judged.check;
+  job.addon_gap = judged.addonGap;
   const Mark mark(job);
   if (!mark.IsOk()) return "refused";
   return HasTwoWidths(judged.symbology) ? LettersOfTwoWidths(mark.Result())
@@ -82,7 +91,7 @@ std::string ElementsOf(const JudgedMark& judged) {
 TEST(JudgedMarks, EveryMarkIsWhatTheGeneratorDrew) {
   for (const JudgedMark& judged : JudgedMarks()) {
     EXPECT_EQ(ElementsOf(judged), judged.elements)
-        << judged.symbology << " " << testing::PrintToString(judged.text);
+        << judged.symbology << " " << judged.check << " " << testing::PrintToString(judged.text);
   }
 }
 

@@ -16,18 +16,18 @@ export function raw(bcid, text, options) {
   }
 }
 
-// Letters of the elements of two widths, n and w; digits of other elements' widths in modules.
+// Letters of the elements of two widths, n and w; the widths of other elements in modules, 10 as a.
 export function lettersOfElements(elements, twoWidths) {
-  return elements.map((width) => (twoWidths ? (width > 1 ? 'w' : 'n') : String(width))).join('');
+  return elements.map((width) => (twoWidths ? (width > 1 ? 'w' : 'n') : width.toString(36))).join('');
 }
 
 // The same of the modules of a mark, as mark_jobs writes them.
 export function lettersOfModules(modules, twoWidths) {
   if (twoWidths) return modules.replace(/./g, (module) => (module >= '2' ? 'w' : 'n'));
-  return modules.replace(/0+|1+/g, (run) => String(run.length));
+  return modules.replace(/0+|1+/g, (run) => run.length.toString(36));
 }
 
-export const widthOf = (letters) => [...letters].reduce((sum, width) => sum + Number(width), 0);
+export const widthOf = (letters) => [...letters].reduce((sum, width) => sum + parseInt(width, 36), 0);
 
 // Of Code 128, whose choice of sets is free: no longer than the judge's shortest symbol (from a set
 // that was asked for a symbol may be longer), and the judge draws the values as they are drawn.

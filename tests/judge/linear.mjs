@@ -1,12 +1,18 @@
-// What the linear symbologies are judged on. A case is { suite, job, text }; without picture in its
-// job the readers are not asked.
+// What the linear symbologies are judged on, and by whom. A case is { suite, name, job, text }, the
+// name that of its row in the table of results; without picture in its job the readers are not asked.
+import { judge as judgeByBwip } from './bwip.mjs';
+import { CHECK, checkDigit, code11, modulo10, modulo16, modulo43, spellOut } from './checks.mjs';
+import { LINEAR_DIFFERENCES } from './differences.mjs';
+import { pictureOf } from './marks.mjs';
+import { judgeByZbar, judgeByZxing } from './readers.mjs';
+import { ADD_START_STOP, isCode128, PERMIT, ROW, SYMBOLOGIES } from './symbologies.mjs';
 import { bytes, CAPITALS, DIGITS, SMALL, Texts } from './texts.mjs';
-import { isCode128, PERMIT, SYMBOLOGIES } from './symbologies.mjs';
 
 const BYTES = 1;
 const PATTERNS = [0, 1, 2, 3, 5];
 const RATIOS = [3, 2.5, 2];
 const PIXELS = 4;
+const EQUAL_ROWS = 10;  // of a picture: all rows of a bar are equal
 const CLASSES_128 = [DIGITS, DIGITS, CAPITALS, SMALL, bytes(32, 63), bytes(0, 31), bytes(128, 255), bytes(96, 127)];
 const CLASSES_B = [DIGITS, CAPITALS, SMALL, bytes(32, 127)];
 
@@ -62,6 +68,66 @@ function* everyLength(row, texts) {
   }
 }
 
+// Every way to say a number: with its check digit or a wrong one, UPC-E as a UPC-A number or as six
+// digits, an add-on behind a sign.
+function formOfEanUpc(row, texts) {
+  const main = row.text(texts).slice(0, row.digits);
+  const number = row.said(row.addOn > 0 ? `${main}+${'0'.repeat(row.addOn)}` : main).bytes;
+  const upcA = number.slice(1, 13);
+  const whole = row.digits === 7 && row.format === 'UPCE' ? main + upcA[11] : number.slice(number.length - row.addOn - row.digits - 1, number.length - row.addOn);
+  const wrong = whole.slice(0, -1) + texts.pick(DIGITS);
+  const forms = [main, whole, wrong];
+  if (row.format === 'UPCE') forms.push(main.slice(1), upcA, upcA.slice(0, 11), texts.of('012', 11));
+  const form = texts.pick(forms);
+  if (row.addOn === 0 && texts.below(2) === 0) return form;
+  return `${form}+${texts.of(DIGITS, row.addOn || texts.pick([2, 5, 2, 5, 1, 3, 0]))}`;
+}
+
+function* formsOfEanUpc(row, texts, count) {
+  if (!row.isEanUpc) return;
+  const least = row.format === 'UPCE' || row.digits === 11 ? 9 : 7;
+  for (let i = 0; i < count; ++i) {
+    const job = { ...markOf(row.number, i), addon_gap: texts.pick([0, least + texts.below(13 - least)]) };
+    yield { suite: 'forms', job, text: formOfEanUpc(row, texts) };
+  }
+}
+
+// The text with the check characters of the usual scheme.
+const CHECKED = {
+  0: (text) => text.slice(0, -1) + modulo16(text) + text.at(-1),
+  1: (text) => text + modulo43(text),
+  102: (text) => text + modulo43(spellOut(text)),
+  4: (text) => text + modulo10(text),
+  11: (text) => text + code11(text),
+  21: (text) => text + checkDigit(text),
+};
+
+// Every scheme; of texts that bring their check character every fourth with another one.
+function* schemes(row, texts, count) {
+  for (const check of row.checks ?? []) {
+    for (let i = 0; i < count; ++i) {
+      let text = texts.between(row.alphabet, 1, row.usual ?? 25);
+      const job = { ...markOf(row.number, i), check };
+      if (row.number === 0 && i % 3 === 0) job.flags |= ADD_START_STOP;
+      else if (row.number === 0) text = `${texts.pick('ABCD')}${text}${texts.pick('ABCD')}`;
+      if (check === CHECK.VERIFY) {
+        const framed = row.number === 0 && i % 3 === 0 ? `A${text}A` : text;
+        text = i % 4 === 0 ? text : CHECKED[row.number](framed);
+      }
+      yield { suite: 'schemes', job, text };
+    }
+  }
+}
+
+// 13 and 14 digits, with right and wrong check digits.
+function* itf14(texts, count) {
+  for (let i = 0; i < count; ++i) {
+    const digits = texts.of(DIGITS, 13);
+    const text = [digits, digits + checkDigit(digits), digits + texts.pick(DIGITS)][i % 3];
+    yield { suite: 'schemes', job: markOf(101, i), text };
+  }
+}
+
 // Texts of docs/deviations.md: what the device writes otherwise.
 const REGISTER = {
   0: ['1234', 'A1234', '1234B', 'AB', 'A', 'T1*', 'N1E', '*1N', 'E1T', 'A1B2C', ''],
@@ -85,7 +151,7 @@ const REGISTER = {
 };
 
 function* ofTheRegister(row) {
-  for (const text of REGISTER[row.number]) {
+  for (const text of REGISTER[row.number] ?? []) {
     for (const flags of [0, PERMIT]) {
       yield { suite: 'register', job: { ...markOf(row.number, 1), flags }, text };
     }
@@ -100,13 +166,27 @@ function* lengthsOfCode128(texts, count) {
   }
 }
 
-export function linearCases(share) {
-  const cases = [];
+function cases(share) {
+  const found = [];
   for (const row of SYMBOLOGIES) {
     const texts = new Texts(1000 + row.number);
-    cases.push(...random(row, texts, Math.ceil(1000 * share)), ...everyCharacter(row, texts));
-    cases.push(...everyLength(row, texts), ...ofTheRegister(row));
+    found.push(...random(row, texts, Math.ceil(1000 * share)), ...everyCharacter(row, texts));
+    found.push(...everyLength(row, texts), ...ofTheRegister(row));
+    found.push(...schemes(row, texts, Math.ceil(200 * share)));
+    found.push(...formsOfEanUpc(row, texts, Math.ceil(500 * share)));
   }
-  cases.push(...lengthsOfCode128(new Texts(128), Math.ceil(10000 * share)));
-  return cases.map((one) => ({ ...one, text: latin1(one.text) }));
+  found.push(...itf14(new Texts(14), Math.ceil(400 * share)));
+  found.push(...lengthsOfCode128(new Texts(128), Math.ceil(10000 * share)));
+  return found.map((one) => ({ ...one, name: ROW[one.job.symbology].name, text: latin1(one.text) }));
 }
+
+async function judge(one, say) {
+  say('bwip-js', judgeByBwip(one));
+  if (one.answer.picture === undefined) return;
+  const row = ROW[one.job.symbology];
+  const picture = pictureOf(one.answer.picture, EQUAL_ROWS);
+  if (row.format) say('zxing', await judgeByZxing(one, picture));
+  if (row.zbar) say('zbar', await judgeByZbar(one, picture));
+}
+
+export const linear = { title: 'symbology', judges: ['bwip-js', 'zxing', 'zbar'], cases, judge, differences: LINEAR_DIFFERENCES };

@@ -51,8 +51,9 @@ function compare(found, expected) {
 
 export async function judgeByZxing({ job, text }, picture) {
   const row = ROW[job.symbology];
-  const addOn = row.addOn > 0 ? { eanAddOnSymbol: 'Require' } : {};
-  return compare(await zxing(picture, [row.format], addOn), row.said(text.toString('latin1'), job));
+  const characters = text.toString('latin1');
+  const options = row.hasAddOn?.(characters) ? { eanAddOnSymbol: 'Require' } : {};
+  return compare(await zxing(picture, [row.format], options), row.said(characters, job));
 }
 
 export async function judgeByZbar({ job, text }, picture) {

@@ -59,14 +59,6 @@ TEST(JobOptions, SymbologiesThatAreNone) {
   }
 }
 
-TEST(JobOptions, PublishedMarksToCome) {
-  const Mark mark(PublishedJobOf(BARHATCH_DATA_MATRIX, "1234"));
-  EXPECT_EQ(mark->status, BARHATCH_BAD_OPTION);
-  EXPECT_EQ(mark.Message(),
-            "Data Matrix by the book is not in this version; conformance DEVICE writes it as the "
-            "device does");
-}
-
 TEST(JobOptions, ConformancesThatAreNone) {
   EXPECT_EQ(Linear([](BarhatchJob& job) { job.conformance = 2; }),
             "2 conformance 2 is none: 0 and 1");
@@ -74,15 +66,15 @@ TEST(JobOptions, ConformancesThatAreNone) {
             "2 conformance -1 is none: 0 and 1");
 }
 
-TEST(JobOptions, InputsToCome) {
-  for (const std::int32_t input : {2, 5, 6, -1}) {
+TEST(JobOptions, InputsThatAreNone) {
+  for (const std::int32_t input : {6, -1}) {
     EXPECT_EQ(Linear([&](BarhatchJob& job) { job.input = input; }),
-              "2 input " + std::to_string(input) + " is not in this version: 0, 1, 3 and 4");
+              "2 input " + std::to_string(input) + " is none: 0 to 5");
   }
 }
 
 TEST(JobOptions, FlagsToCome) {
-  for (const std::uint32_t flag : {4u, 8u, 16u, 256u, 1024u, 2048u, 0x80000000u}) {
+  for (const std::uint32_t flag : {2048u, 0x80000000u}) {
     EXPECT_EQ(Linear([&](BarhatchJob& job) { job.flags = flag; }),
               "2 a flag is set that this version does not have");
   }
@@ -119,9 +111,9 @@ TEST(JobOptions, IntegersToCome) {
     const char* name;
   };
   for (const Row& row :
-       {Row{&BarhatchJob::eci, "eci"}, Row{&BarhatchJob::shape, "shape"},
-        Row{&BarhatchJob::profile, "profile"},
-        Row{&BarhatchJob::dots_per_module, "dots_per_module"}, Row{&BarhatchJob::order, "order"}}) {
+       {Row{&BarhatchJob::profile, "profile"},
+        Row{&BarhatchJob::dots_per_module, "dots_per_module"}, Row{&BarhatchJob::order, "order"},
+        Row{&BarhatchJob::part_reserved, "part_reserved"}}) {
     const std::string refusal =
         std::string("2 ") + row.name + " is not in this version: it must be 0";
     EXPECT_EQ(Linear([&](BarhatchJob& job) { job.*row.field = 1; }), refusal);
@@ -142,6 +134,31 @@ TEST(JobOptions, LengthsToCome) {
                 std::string("2 ") + row.name + " is not in this version: it must be 0");
     }
     EXPECT_EQ(Linear([&](BarhatchJob& job) { job.*row.field = -0.0; }), "0 ");
+  }
+}
+
+// By the book: device marks and linear symbols have none of it.
+TEST(JobOptions, OfADataMatrixByTheBook) {
+  struct Row {
+    std::int32_t BarhatchJob::*field;
+    const char* name;
+  };
+  for (const Row& row : {Row{&BarhatchJob::eci, "eci"}, Row{&BarhatchJob::shape, "shape"},
+                         Row{&BarhatchJob::part, "part"}, Row{&BarhatchJob::parts, "parts"},
+                         Row{&BarhatchJob::part_id, "part_id"}}) {
+    const std::string refusal =
+        std::string("2 ") + row.name + " is for Data Matrix by the book: it must be 0";
+    EXPECT_EQ(Linear([&](BarhatchJob& job) { job.*row.field = 1; }), refusal);
+    EXPECT_EQ(Matrix([&](BarhatchJob& job) { job.*row.field = -1; }), refusal);
+  }
+  const Change codewords = [](BarhatchJob& job) { job.input = BARHATCH_CODEWORDS; };
+  EXPECT_EQ(Linear(codewords), "2 CODEWORDS are for Data Matrix by the book");
+  EXPECT_EQ(Matrix(codewords), "2 CODEWORDS are for Data Matrix by the book");
+  for (const std::uint32_t flag : {4u, 8u, 16u, 256u, 1024u}) {
+    const Change change = [&](BarhatchJob& job) { job.flags = flag; };
+    EXPECT_EQ(Linear(change), "2 a flag is set that is for Data Matrix alone");
+    EXPECT_EQ(Matrix(change),
+              "2 of the flags of Data Matrix a device mark has FNC1_SECOND and MAY_GROW");
   }
 }
 
@@ -166,7 +183,7 @@ TEST(JobOptions, OfAMatrix) {
             "11 255x255 is no size");
   for (const std::int32_t envelope : {-1, 1, 4, 7, 12}) {
     EXPECT_EQ(Matrix([&](BarhatchJob& job) { job.envelope = envelope; }),
-              "2 envelope " + std::to_string(envelope) + " is not in this version: 0, 5 and 6");
+              "2 envelope " + std::to_string(envelope) + " is none of a device mark: 0, 5 and 6");
   }
   EXPECT_EQ(Matrix([](BarhatchJob& job) {
               job.envelope = 6;

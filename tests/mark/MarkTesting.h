@@ -120,6 +120,11 @@ class HostMemory {
 
   std::size_t Allocations() const { return allocations_; }
   std::size_t LiveBlocks() const { return live_.size(); }
+  std::size_t LiveBytes() const {
+    std::size_t sum = 0;
+    for (const auto& block : live_) sum += block.second;
+    return sum;
+  }
   std::size_t Strangers() const { return strangers_; }  // blocks released that are none of its own
 
  private:

@@ -106,6 +106,32 @@ TEST(MarkMemory, IsTheSameMarkWhereverItComesFrom) {
   });
 }
 
+TEST(MarkMemory, NeedNotBeZeroForAZeroBehindTheReading) {
+  ForEachJob([](BarhatchJob& job) {
+    HostMemory memory;
+    const Mark mark(memory.Serve(job));
+    EXPECT_TRUE(mark->reading == nullptr || mark->reading[mark->reading_length] == '\0');
+  });
+}
+
+// The way to give it back takes 16 bytes, and nothing has a place for a quiet zone.
+TEST(MarkMemory, OfAResultIsThatOfItsPartsAlone) {
+  ForEachJob([](BarhatchJob& job) {
+    HostMemory memory;
+    job.invert = 1;
+    const Mark mark(memory.Serve(job));
+    const auto modules = static_cast<std::size_t>(mark->rows * mark->columns);
+    const std::size_t reading = mark->reading == nullptr ? 0 : mark->reading_length + 1;
+    const std::size_t text = std::strlen(mark->deviations_met) + 1;
+    const std::size_t parts = modules + mark->values_count + reading + text;
+    const std::size_t most = memory.LiveBytes() - 16 - parts;
+    EXPECT_GE(most, sizeof(double) * mark.Doubles());
+    job.want = 63 & ~BARHATCH_WANT_STROKES;
+    const Mark without(job);
+    EXPECT_EQ(memory.LiveBytes(), 16 + parts + most + 16 + parts);
+  });
+}
+
 TEST(MarkMemory, OfARefusedMarkIsGivenBackBeforeTheReturn) {
   for (const char* const text : {"A\xC3", "a", "", "ABC"}) {
     BarhatchJob job = PublishedJobOf(BARHATCH_EAN_13, text);

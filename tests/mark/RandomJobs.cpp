@@ -33,7 +33,7 @@ std::u16string RandomJobs::LinearText(std::int32_t type) {
   if (isUpcE && !text.empty()) text[0] = static_cast<char16_t>(u'0' + Below(2));
   const bool isCodabar = type == BARHATCH_CODABAR;
   if (isCodabar && !OneIn(4)) text = u"A" + text + u"DT*E"[Below(4)];
-  if (OneIn(12) && !text.empty()) text[Below(length)] = static_cast<char16_t>(1 + Below(0xFFFF));
+  if (OneIn(12) && length > 0) text[Below(length)] = static_cast<char16_t>(1 + Below(0xFFFF));
   if (OneIn(40)) text.insert(Below(length + 1), 1, static_cast<char16_t>((1 + Below(255)) << 8));
   return text;
 }

@@ -93,6 +93,7 @@ TEST(Reading, OfAMatrixIsItsBytes) {
 TEST(Reading, OfAMatrixLeavesOutDesignators) {
   EXPECT_TRUE(IsMatrix(u"A\u01A3B\u0400", "AB"));
   EXPECT_TRUE(IsMatrix(u"\u01A3", ""));
+  EXPECT_TRUE(IsMatrix(u"\u00FF\u0100", "\xFF"));
 }
 
 TEST(Reading, OfAMatrixWritesOutItsEnvelope) {
@@ -105,6 +106,7 @@ TEST(Reading, OfAMatrixWritesOutItsEnvelope) {
   EXPECT_FALSE(IsMatrix(u"A1", kHead05 + "A1" + kTrailer + "x", Header::kMacro05));
   EXPECT_FALSE(IsMatrix(u"A1", kHead05 + "A1" + kTrailer));
   EXPECT_FALSE(IsMatrix(u"A1", "A1", Header::kMacro05));
+  EXPECT_FALSE(IsMatrix(u"A1", "A1" + kTrailer, Header::kMacro05));
 }
 
 // Behind the first letter or the first two digits, or not reported at all.

@@ -245,6 +245,7 @@ TEST(Refusals, TextsThatAreTooLong) {
             "5 at 0+0: Code 39 takes at most 3114 characters, 3115 given");
   EXPECT_EQ(Published(0, ("A" + Digits(3115) + "B").c_str()),
             "5 at 0+0: Codabar takes at most 3116 characters, 3117 given");
+  EXPECT_TRUE(Mark(JobOf(100, Digits(3116).c_str())).IsOk());
   EXPECT_EQ(Device(100, Digits(3117).c_str()),
             "5 at 0+0: Data Matrix takes at most 3116 characters, 3117 given");
 }
@@ -298,6 +299,16 @@ TEST(Refusals, SizesThatDoNotExist) {
   EXPECT_EQ(Refused(MatrixOf("123456", 145, 145)), "11 at 0+0: 145x145 is no size");
   EXPECT_EQ(Refused(MatrixOf("123456", 255, 1, BARHATCH_MAY_GROW)), "11 at 0+0: 255x1 is no size");
   EXPECT_TRUE(Mark(MatrixOf("12345678", 11, 11, BARHATCH_MAY_GROW)).IsOk());
+}
+
+// The smallest size is asked for by neither.
+TEST(Refusals, SizesOfOneSideAlone) {
+  const char* const refusal = "10 at 0+0: 3 codewords, ";
+  EXPECT_EQ(Refused(MatrixOf("123456", 8, 0)),
+            std::string(refusal) + "8x0 is no size; MAY_GROW allows a larger one");
+  EXPECT_EQ(Refused(MatrixOf("123456", 0, 18)),
+            std::string(refusal) + "0x18 is no size; MAY_GROW allows a larger one");
+  EXPECT_TRUE(Mark(MatrixOf("123456", 0, 18, BARHATCH_MAY_GROW)).IsOk());
 }
 
 TEST(Refusals, SymbolsThatTheStandardLeavesOut) {

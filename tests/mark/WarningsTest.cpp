@@ -162,6 +162,19 @@ TEST(Warnings, HalvesOfACharacterDesignateWhatNobodyMeant) {
   EXPECT_EQ(mark->warnings, BARHATCH_W_ECI | BARHATCH_W_UNREADABLE);
 }
 
+TEST(Warnings, HalvesAreFrom0xD800To0xDFFF) {
+  for (const int code : {0xD7FF, 0xD800, 0xDBFF, 0xDC00, 0xDFFF, 0xE000}) {
+    const auto unit = static_cast<char16_t>(code);
+    BarhatchJob job = JobOf(BARHATCH_DATA_MATRIX, nullptr);
+    job.input = BARHATCH_UNITS;
+    job.text = &unit;
+    job.length = 1;
+    const bool isHalf = unit != 0xD7FF && unit != 0xE000;
+    EXPECT_EQ(WarningsOf(job), isHalf ? BARHATCH_W_ECI | BARHATCH_W_UNREADABLE : BARHATCH_W_ECI)
+        << code;
+  }
+}
+
 TEST(Warnings, AddUpAndTheGravestIsSaid) {
   BarhatchJob job = WithQuiet(PublishedJobOf(21, "123"), 5.0);
   job.pattern = BARHATCH_VERTICAL_LINES;

@@ -57,6 +57,7 @@ class Annex {
       column += columns_;
       row += 4 - ((columns_ + 4) % 8);
     }
+    if (row >= rows_) row -= rows_;  // ISO/IEC 21471
     Cell(row, column) = 10 * codeword + bit;
   }
 

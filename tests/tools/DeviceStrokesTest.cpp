@@ -5,6 +5,7 @@
 #include <cstring>
 #include <string>
 
+#include "JobOptions.h"
 #include "Request.h"
 #include "barhatch.h"
 #include "support/ExportedStrokes.h"
@@ -34,28 +35,29 @@ std::u16string UnitsOf(const std::string& utf8) {
   return units;
 }
 
-MarkNumbers NumbersOf(const Request& request) {
+MarkNumbers NumbersOf(const Request& request, std::int32_t format) {
   MarkNumbers numbers;
-  numbers.symbology = request.symbology;
+  numbers.symbology = request.job.symbology;
   numbers.text = UnitsOf(request.text);
-  numbers.pattern = request.pattern;
-  numbers.width = request.width;
-  numbers.height = request.height;
-  numbers.gap = request.gap;
-  numbers.ratio = request.ratio;
-  numbers.isInverted = request.invert;
-  numbers.hasQuietZone = request.quietZone;
-  numbers.format = request.format;
-  numbers.rows = request.rows;
-  numbers.columns = request.columns;
-  numbers.isExpanding = request.expand || request.rows == 0 ? 1 : 0;
+  numbers.pattern = request.job.pattern;
+  numbers.width = request.job.width;
+  numbers.height = request.job.height;
+  numbers.gap = request.job.gap;
+  numbers.ratio = request.job.ratio;
+  numbers.isInverted = request.job.invert != 0;
+  numbers.hasQuietZone = HasQuietZoneInside(request);
+  numbers.format = format;
+  numbers.rows = request.job.rows;
+  numbers.columns = request.job.columns;
+  numbers.isExpanding =
+      (request.job.flags & BARHATCH_MAY_GROW) != 0 || request.job.rows == 0 ? 1 : 0;
   return numbers;
 }
 
-void ExpectStrokesOfTheExports(const Request& request) {
+void ExpectStrokesOfTheExports(const Request& request, std::int32_t format) {
   const Result result = ResultOf(request);
   InitBarcode();
-  const Strokes strokes = StrokesByExports(NumbersOf(request));
+  const Strokes strokes = StrokesByExports(NumbersOf(request, format));
   ASSERT_EQ(!strokes.isRefused, static_cast<bool>(result)) << result.message();
   if (strokes.isRefused) return;
   ASSERT_EQ(strokes.coordinates.size(), result.Segments().size() * 4 + result.Points().size() * 2);
@@ -64,16 +66,17 @@ void ExpectStrokesOfTheExports(const Request& request) {
 }
 
 // Every pattern, with and without quiet zone, dark and light.
-void ExpectStrokesOfEveryPattern(Request request) {
+void ExpectStrokesOfEveryPattern(Request request, std::int32_t format = 0) {
   request.device = true;
   for (const std::int32_t pattern : {0, 1, 2, 3, 5, 6}) {
     for (const int choice : {0, 1, 2, 3}) {
       SCOPED_TRACE(request.text + ": pattern " + std::to_string(pattern) + ", choice " +
                    std::to_string(choice));
-      request.pattern = pattern;
-      request.invert = (choice & 1) != 0;
-      request.quietZone = (choice & 2) != 0;
-      ExpectStrokesOfTheExports(request);
+      request.job.pattern = pattern;
+      request.job.invert = choice & 1;
+      request.job.flags &= ~std::uint32_t{BARHATCH_QUIET_INSIDE};
+      if ((choice & 2) != 0) request.job.flags |= BARHATCH_QUIET_INSIDE;
+      ExpectStrokesOfTheExports(request, format);
     }
   }
 }
@@ -83,10 +86,10 @@ void ExpectStrokesOfEveryPattern(Request request) {
 TEST(DeviceStrokes, OfEveryLinearTypeAreThoseOfTheExports) {
   for (std::int32_t type = 0; type < 23; ++type) {
     Request request;
-    request.symbology = type;
+    request.job.symbology = type;
     request.text = kTexts[type];
-    request.ratio = type % 2 == 0 ? 3.0 : 2.5;
-    request.gap = 0.37;
+    request.job.ratio = type % 2 == 0 ? 3.0 : 2.5;
+    request.job.gap = 0.37;
     ExpectStrokesOfEveryPattern(request);
   }
 }
@@ -100,14 +103,14 @@ TEST(DeviceStrokes, OfDataMatrixAreThoseOfTheExports) {
                            Size{10, 10, true}, Size{10, 10, false}, Size{12, 36, false}}) {
     for (std::int32_t format = 0; format < 4; ++format) {
       Request request;
-      request.symbology = BARHATCH_DATA_MATRIX;
+      request.job.symbology = BARHATCH_DATA_MATRIX;
       request.text = "RECTANGLE 12X36";
-      request.rows = size.rows;
-      request.columns = size.columns;
-      request.expand = size.expand;
-      request.format = format;
-      request.gap = 0.37;
-      ExpectStrokesOfEveryPattern(request);
+      request.job.rows = size.rows;
+      request.job.columns = size.columns;
+      if (size.expand) request.job.flags |= BARHATCH_MAY_GROW;
+      SetFormat(request.job, format);
+      request.job.gap = 0.37;
+      ExpectStrokesOfEveryPattern(request, format);
     }
   }
 }

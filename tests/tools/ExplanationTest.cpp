@@ -11,7 +11,7 @@ namespace {
 
 Request RequestOf(std::int32_t symbology, const std::string& text, bool device = false) {
   Request request;
-  request.symbology = symbology;
+  request.job.symbology = symbology;
   request.text = text;
   request.device = device;
   return request;
@@ -94,7 +94,7 @@ TEST(Explanation, WhatTheLibraryCannotWriteByTheBookIsTheDevices) {
 TEST(Explanation, PermitTakesWhatTheStandardLeavesOut) {
   Request request = RequestOf(BARHATCH_UPC_E, "1425261");
   EXPECT_NE(Explained(request).find("refused (status 12)"), std::string::npos);
-  request.permit = true;
+  request.job.flags |= BARHATCH_PERMIT;
   EXPECT_NE(Explained(request).find("accepted"), std::string::npos);
 }
 

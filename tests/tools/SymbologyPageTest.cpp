@@ -1,5 +1,5 @@
-// The table of docs/symbologies.md tells of each type what the library does: names, accepted text,
-// lengths, quiet zones, examples. Beside it, the names of the command line.
+// The tables of docs/symbologies.md tell of each type what the library does: names, accepted text,
+// check characters, lengths, quiet zones, examples. Beside them, the names of the command line.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -7,9 +7,11 @@
 #include <fstream>
 #include <sstream>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
+#include "JobOptions.h"
 #include "Request.h"
 #include "Symbologies.h"
 
@@ -17,19 +19,28 @@ namespace preview {
 
 namespace {
 
-constexpr std::int32_t kTypes = 23;
+constexpr std::int32_t kTypes = 23;  // of the device
 
-enum Column {
-  kType,
-  kName,
-  kSymbology,
-  kByTheBook,
-  kByTheDevice,
+enum Column { kType, kName, kSymbology, kText, kCheck, kCheckDigits, kQuiet, kExample, kColumns };
+enum DeviceColumn {
+  kTypeOfDevice,
+  kTextOfDevice,
   kLength,
-  kCheck,
-  kQuiet,
-  kExample
+  kDigitOfDevice,
+  kDeviceQuiet,
+  kDeviceColumns
 };
+
+enum CheckColumn {
+  kCheckName,
+  kCheckConstant,
+  kCheckMeaning,
+  kCheckExample,
+  kCheckedText,
+  kCheckColumns
+};
+
+using Row = std::vector<std::string>;
 
 std::vector<std::string> Cells(const std::string& row) {
   std::vector<std::string> cells;
@@ -45,16 +56,18 @@ std::vector<std::string> Cells(const std::string& row) {
 // "`text`<br>..." as "text".
 std::string Code(const std::string& cell) { return cell.substr(1, cell.find('`', 1) - 1); }
 
-// The rows whose first cell is a number.
-std::vector<std::vector<std::string>> Rows() {
+// The rows of so many cells whose first one begins with a character of some.
+std::vector<Row> TableOf(std::size_t cells, std::string_view firsts) {
   std::ifstream page(BARHATCH_SOURCE_DIR "/docs/symbologies.md");
-  std::vector<std::vector<std::string>> rows;
+  std::vector<Row> rows;
   for (std::string line; std::getline(page, line);) {
-    const bool isRow = line.size() > 2 && line[0] == '|' && line[2] >= '0' && line[2] <= '9';
-    if (isRow) rows.push_back(Cells(line));
+    const bool isRow = line.size() > 2 && line[0] == '|' && firsts.find(line[2]) != firsts.npos;
+    if (isRow && Cells(line).size() == cells) rows.push_back(Cells(line));
   }
   return rows;
 }
+
+std::vector<Row> RowsOf(std::size_t cells) { return TableOf(cells, "0123456789"); }
 
 // "0-3114, ..." or "12".
 std::pair<int, int> LengthsOf(const std::string& cell) {
@@ -65,11 +78,11 @@ std::pair<int, int> LengthsOf(const std::string& cell) {
 
 Request RequestOf(std::int32_t type, const std::string& text, bool device) {
   Request request;
-  request.symbology = type;
+  request.job.symbology = type;
   request.text = text;
   request.device = device;
-  request.permit = !device;
-  request.width = 1.0;
+  if (!device) request.job.flags |= BARHATCH_PERMIT;
+  request.job.width = 1.0;
   return request;
 }
 
@@ -94,45 +107,83 @@ std::string QuietZoneOf(const Result& result) {
          modules(result.total().right - result.symbol().right);
 }
 
-class SymbologyPage : public ::testing::TestWithParam<std::int32_t> {
- protected:
-  void SetUp() override {
-    ASSERT_EQ(Rows().size(), static_cast<std::size_t>(kTypes));
-    row_ = Rows()[static_cast<std::size_t>(GetParam())];
-    ASSERT_EQ(row_.size(), static_cast<std::size_t>(kExample) + 1);
-  }
+class PublishedTable : public ::testing::TestWithParam<Row> {};
 
-  std::vector<std::string> row_;
+class DeviceTable : public ::testing::TestWithParam<Row> {
+ protected:
+  std::int32_t Type() const { return std::stoi(GetParam()[kTypeOfDevice]); }
 };
 
 }  // namespace
 
-TEST_P(SymbologyPage, HasTheNamesAndTheTextByTheBook) {
-  const Result answer = AnswerOf(GetParam(), BARHATCH_PUBLISHED);
-  EXPECT_EQ(row_[kType], std::to_string(GetParam()));
-  EXPECT_EQ(Code(row_[kName]), NameOf(GetParam()));
-  EXPECT_EQ(row_[kSymbology], answer.name());
-  EXPECT_EQ(row_[kByTheBook], answer.accepts());
+TEST_P(PublishedTable, HasNamesTextAndCheckCharacters) {
+  const std::int32_t type = std::stoi(GetParam()[kType]);
+  const Result answer = AnswerOf(type, BARHATCH_PUBLISHED);
+  EXPECT_EQ(Code(GetParam()[kName]), NameOf(type));
+  EXPECT_EQ(GetParam()[kSymbology], answer.name());
+  EXPECT_EQ(GetParam()[kText], answer.accepts());
+  EXPECT_EQ(GetParam()[kCheck], ChecksOf(type));
 }
 
-TEST_P(SymbologyPage, HasTheLengthsThatTheDeviceTakes) {
-  const auto [shortest, longest] = LengthsOf(row_[kLength]);
-  EXPECT_TRUE(DeviceTakesZeros(GetParam(), shortest));
-  EXPECT_TRUE(shortest == 0 || !DeviceTakesZeros(GetParam(), shortest - 1));
-  EXPECT_TRUE(DeviceTakesZeros(GetParam(), longest));
-  EXPECT_FALSE(DeviceTakesZeros(GetParam(), longest + 1));
+TEST_P(PublishedTable, HasAnExampleThatIsReadAndItsQuietZone) {
+  const std::int32_t type = std::stoi(GetParam()[kType]);
+  const Result result = ResultOf(RequestOf(type, Code(GetParam()[kExample]), false));
+  ASSERT_TRUE(result) << result.message();
+  EXPECT_FALSE(result.warnings().Has(barhatch::Warning::kUnreadable)) << result.message();
+  EXPECT_EQ(GetParam()[kQuiet], QuietZoneOf(result));
 }
 
-TEST_P(SymbologyPage, HasAnExampleThatIsReadAndItsQuietZone) {
-  for (const bool device : {false, true}) {
-    const Result result = ResultOf(RequestOf(GetParam(), Code(row_[kExample]), device));
-    ASSERT_TRUE(result) << result.message();
-    EXPECT_FALSE(result.warnings().Has(barhatch::Warning::kUnreadable)) << result.message();
-    EXPECT_EQ(QuietZoneIn(row_[kQuiet], device), QuietZoneOf(result));
+INSTANTIATE_TEST_SUITE_P(EveryType, PublishedTable, ::testing::ValuesIn(RowsOf(kColumns)));
+
+TEST_P(DeviceTable, HasTheLengthsThatTheDeviceTakes) {
+  const auto [shortest, longest] = LengthsOf(GetParam()[kLength]);
+  EXPECT_TRUE(DeviceTakesZeros(Type(), shortest));
+  EXPECT_TRUE(shortest == 0 || !DeviceTakesZeros(Type(), shortest - 1));
+  EXPECT_TRUE(DeviceTakesZeros(Type(), longest));
+  EXPECT_FALSE(DeviceTakesZeros(Type(), longest + 1));
+}
+
+TEST_P(DeviceTable, HasTheQuietZoneOfTheExample) {
+  const Row published = RowsOf(kColumns)[static_cast<std::size_t>(Type())];
+  const Result result = ResultOf(RequestOf(Type(), Code(published[kExample]), true));
+  ASSERT_TRUE(result) << result.message();
+  EXPECT_FALSE(result.warnings().Has(barhatch::Warning::kUnreadable)) << result.message();
+  EXPECT_EQ(GetParam()[kDeviceQuiet], QuietZoneOf(result));
+}
+
+INSTANTIATE_TEST_SUITE_P(EveryType, DeviceTable, ::testing::ValuesIn(RowsOf(kDeviceColumns)));
+
+// "`itf` `12345`" and "`123457`".
+TEST(SymbologyPage, HasAnExampleOfEveryCheckScheme) {
+  std::string names;
+  for (const Row& row : TableOf(kCheckColumns, "`")) {
+    names += (names.empty() ? "" : ", ") + Code(row[kCheckName]);
+    const std::string& example = row[kCheckExample];
+    const std::string type = Code(example);
+    Request request = RequestOf(*SymbologyFrom(type), Code(example.substr(type.size() + 3)), false);
+    SetCheck(request.job, Code(row[kCheckName]));
+    const Result result = ResultOf(request);
+    ASSERT_TRUE(result) << example << ": " << result.message();
+    EXPECT_EQ(Code(row[kCheckedText]), result.Hri()) << example;
+  }
+  EXPECT_EQ(names, CheckNames());
+}
+
+TEST(SymbologyPage, HasARowOfEveryType) {
+  std::vector<std::int32_t> numbers;
+  for (const Row& row : RowsOf(kColumns)) numbers.push_back(std::stoi(row[kType]));
+  std::vector<std::int32_t> written;
+  for (const std::int32_t linear : SymbologyNumbers()) {
+    const bool isLinear = linear != BARHATCH_DATA_MATRIX;
+    if (isLinear && IsWritten(linear, BARHATCH_PUBLISHED)) written.push_back(linear);
+  }
+  EXPECT_EQ(numbers, written);
+  const std::vector<Row> device = RowsOf(kDeviceColumns);
+  ASSERT_EQ(device.size(), static_cast<std::size_t>(kTypes));
+  for (std::size_t i = 0; i < device.size(); ++i) {
+    EXPECT_EQ(device[i][kTypeOfDevice], std::to_string(i));
   }
 }
-
-INSTANTIATE_TEST_SUITE_P(EveryType, SymbologyPage, ::testing::Range(0, kTypes));
 
 TEST(Symbologies, AreFoundByNumberAndByNameInAnyCase) {
   EXPECT_EQ(SymbologyFrom("0"), BARHATCH_CODABAR);
@@ -145,11 +196,13 @@ TEST(Symbologies, AreFoundByNumberAndByNameInAnyCase) {
   }
 }
 
-TEST(Symbologies, ListAndTableHaveALineForEach) {
+TEST(Symbologies, ListAndTableHaveEachOfThem) {
   const std::string list = SymbologyList();
   const std::string table = SymbologyTable();
-  EXPECT_EQ(std::count(list.begin(), list.end(), '\n'), 1 + kTypes + 1);
-  EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 2 + kTypes + 1);
+  const auto lines = static_cast<std::ptrdiff_t>(SymbologyNumbers().size());
+  EXPECT_EQ(lines, kTypes + 3);
+  EXPECT_EQ(std::count(list.begin(), list.end(), '\n'), 4 * lines);
+  EXPECT_EQ(std::count(table.begin(), table.end(), '\n'), 2 + lines);
 }
 
 }  // namespace preview

@@ -9,7 +9,7 @@ namespace {
 
 Request RequestOf(std::int32_t symbology, const std::string& text, bool device = false) {
   Request request;
-  request.symbology = symbology;
+  request.job.symbology = symbology;
   request.text = text;
   request.device = device;
   return request;
@@ -68,12 +68,12 @@ TEST(Verification, TakesEan13WithALeadingZeroAsUpcA) {
 
 TEST(Verification, TakesFnc1AndBytesAsTheReaderTellsThem) {
   Request request = RequestOf(BARHATCH_DATA_MATRIX, "12A");
-  request.format = 1;
+  request.job.flags |= BARHATCH_FNC1_SECOND;
   EXPECT_TRUE(Judged(request, ReadingOf("12\x1D"
                                         "A"))
                   .isRead);
   EXPECT_TRUE(Judged(request, ReadingOf("12A")).isRead);
-  request.format = 0;
+  request.job.flags = 0;
   EXPECT_FALSE(Judged(request, ReadingOf("12\x1D"
                                          "A"))
                    .isRead);

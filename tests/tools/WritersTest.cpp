@@ -22,10 +22,10 @@ namespace {
 
 Drawing DrawingOfPattern(std::int32_t symbology, std::int32_t pattern) {
   Request request;
-  request.symbology = symbology;
+  request.job.symbology = symbology;
   request.text = "A-1";
-  request.pattern = pattern;
-  request.gap = 0.31;
+  request.job.pattern = pattern;
+  request.job.gap = 0.31;
   return DrawingOf(ResultOf(request), "A-1 \xC3\xA4;\n<&");
 }
 
