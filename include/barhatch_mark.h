@@ -89,7 +89,7 @@ enum BarhatchConformance {
 enum BarhatchInput {
   BARHATCH_UTF8 = 0,      /* UTF-8, length bytes of it, or up to the NUL */
   BARHATCH_BYTES = 1,     /* bytes, each one a character */
-  BARHATCH_GS1 = 2,       /* element strings; not in this version */
+  BARHATCH_GS1 = 2,       /* UTF-8, an element string of GS1: "(01)09501101530003(10)ABC" or as a reader reports it */
   BARHATCH_ESCAPED = 3,   /* UTF-8 with escapes: ^000 to ^255 a byte, ^FNC1 to ^FNC3, ^ECI000026, ^^ the caret */
   BARHATCH_UNITS = 4,     /* 16-bit units, as barhatch.h takes them; length counts units */
   BARHATCH_CODEWORDS = 5  /* bytes, data codewords of a Data Matrix: pads, error correction and placement are added */
