@@ -352,12 +352,20 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
   }
 }
 
+bool IsOfElements(Reason reason) {
+  return reason >= Reason::kUnknownAi && reason <= Reason::kGs1Syntax;
+}
+
 }  // namespace
 
 std::int32_t StatusOf(Reason reason) { return kStatuses[static_cast<int>(reason)].status; }
 
 void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
                 Message message) {
+  if (IsOfElements(refusal.reason)) {
+    SayElementRefusal(refusal, place, message);
+    return;
+  }
   switch (refusal.reason) {
     case Reason::kTooManyValues:
       message << refusal.figure << " symbol characters, at most " << kMostShortestValues;
@@ -402,18 +410,6 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
       break;
     case Reason::kProof:
       message << "the symbol does not decode to the text: a defect of the library";
-      break;
-    case Reason::kUnknownAi:
-    case Reason::kAiTooLong:
-    case Reason::kAiTooShort:
-    case Reason::kAiCharacter:
-    case Reason::kAiCheckDigit:
-    case Reason::kAiCheckPair:
-    case Reason::kAiDate:
-    case Reason::kAiValue:
-    case Reason::kAiRepeated:
-    case Reason::kGs1Syntax:
-      SayElementRefusal(refusal, place, message);
       break;
     case Reason::kNoMemory:
       message << "no memory";
