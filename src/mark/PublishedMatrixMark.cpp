@@ -1,5 +1,7 @@
 // The Data Matrix half of a mark by the book: text to tokens, tokens to a grid of modules, its
 // codewords read back.
+#include <cstring>
+
 #include "datamatrix/PublishedMatrix.h"
 #include "mark/JobRecord.h"
 #include "mark/MatrixMark.h"
@@ -66,8 +68,10 @@ Refusal MakeCodewords(const BarhatchJob& job, const TokenText& tokens, Conforman
                                         DrawnQuietModulesOf(job), how, symbol.memory, matrix);
   if (refusal.IsRefused()) return refusal;
   const Refusal kept = KeepMatrix(job, matrix, how, symbol, result);
+  if (kept.IsRefused()) return kept;
   if (!symbol.isRead) symbol.warnings |= BARHATCH_W_UNREADABLE;
-  return kept;
+  const bool isAsGiven = std::memcmp(symbol.values, codewords.get(), tokens.length) == 0;
+  return {isAsGiven || !WantsProof(job) ? Reason::kNone : Reason::kProof};
 }
 
 bool IsInOrderOfStandard(const BarhatchJob& job, const MarkedSymbol& symbol) {
