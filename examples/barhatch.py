@@ -62,10 +62,10 @@ class Input(IntEnum):
 
 class Envelope(IntEnum):
     NONE = 0
-    FORMAT_05 = 5
-    FORMAT_06 = 6
-    FORMAT_12 = 12
-    FORMAT_DD = 100
+    ENVELOPE_05 = 5
+    ENVELOPE_06 = 6
+    ENVELOPE_12 = 12
+    DD = 100
 
 
 class Check(IntEnum):

@@ -144,8 +144,8 @@ enum BarhatchFlag {
   BARHATCH_NO_PROOF = 64,            /* do not decode the finished symbol; see BARHATCH_PROOF_FAILED */
   BARHATCH_MAY_GROW = 128,           /* a Data Matrix may be larger than rows x columns */
   BARHATCH_MASK = 256,               /* Data Matrix: text stands for many, with # for a digit, A for a capital letter, ?
-                                        for any byte, and \# \A \? \\ for themselves. The result has rows, columns,
-                                        capacity, extents and, as codewords, what the longest of them takes; no modules,
+                                        for any byte; a backslash in front of them and of a backslash means the
+                                        character itself. The result has rows, columns, capacity, extents and, as codewords, enough for each; no modules,
                                         values, reading or strokes. A job of that size marks every one */
   BARHATCH_ADD_START_STOP = 512,     /* not in this version */
   BARHATCH_READER_PROGRAMMING = 1024 /* Data Matrix: the text is for the reader's settings */

@@ -43,7 +43,7 @@ constexpr std::int32_t kLastIdentification = 254 * 254 - 1;
 struct PublishedText {
   TokenText text;  // bytes, FNC1, ECI designators; one or more
   MatrixHead head = MatrixHead::kNone;
-  StructuredAppend append;
+  StructuredAppend append = {};
   bool hasLooseEnd = false;  // see EndOfData.h
 };
 

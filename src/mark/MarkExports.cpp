@@ -70,7 +70,8 @@ TextPlace PlaceOf(const InputText& text, const Refusal& refusal) {
 Refusal WithPlace(const InputText& text, Refusal refusal, BarhatchResult& result) {
   if (refusal.position < 0) return refusal;
   const TextPlace place = PlaceOf(text, refusal);
-  if (refusal.reason == Reason::kCharacter || refusal.reason == Reason::kFunction) {
+  if (refusal.reason == Reason::kCharacter || refusal.reason == Reason::kFunction ||
+      refusal.reason == Reason::kNoSuchByte) {
     refusal.figure = static_cast<std::int32_t>(text.TokenAt(place));
   }
   SetPlace(place, result);

@@ -28,13 +28,15 @@ PublishedText TextOf(const BarhatchJob& job, const TokenText& tokens) {
 Refusal MakeMask(const BarhatchJob& job, const TokenText& tokens, MarkedSymbol& symbol,
                  BarhatchResult& result) {
   SymbolSize size;
+  int codewords = 0;
   const Refusal refusal =
-      SizeOfMask(TextOf(job, tokens), SizeWishOf(job), symbol.memory, size, result.codewords);
+      SizeOfMask(TextOf(job, tokens), SizeWishOf(job), symbol.memory, size, codewords);
   if (refusal.IsRefused()) return refusal;
   const int quiet = QuietZoneOf(DrawnQuietModulesOf(job), kStandardQuietModules);
   symbol.rows = size.symbolRows + 2 * quiet;
   symbol.columns = size.symbolColumns + 2 * quiet;
   symbol.drawnQuiet = OnAllSides(quiet);
+  result.codewords = codewords;
   result.capacity = size.dataCodewords;
   return {};
 }

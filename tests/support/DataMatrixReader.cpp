@@ -77,6 +77,12 @@ class Reader {
       Report(kReadMacro05);
     } else if (codeword == 237 && isFirst) {
       Report(kReadMacro06);
+    } else if (codeword == 233 && isFirst && Left() >= 3) {
+      const int place = Next();
+      const int first = Next();
+      Report(ReadStructuredAppend(place, first, Next()));
+    } else if (codeword == 234 && isFirst) {
+      Report(kReadReaderProgramming);
     } else if (codeword == 241) {
       ReadDesignator();
     } else if (codeword != 254 || Left() > 0) {

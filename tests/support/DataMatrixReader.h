@@ -14,7 +14,12 @@ namespace barhatch::test {
 constexpr int kReadFnc1 = 1000;
 constexpr int kReadMacro05 = 1005;
 constexpr int kReadMacro06 = 1006;
-constexpr int ReadEci(int number) { return 100000 + number; }
+constexpr int kReadReaderProgramming = 1234;
+constexpr int kReadStructuredAppend = 20000;  // and its three codewords: place, identification
+constexpr int ReadStructuredAppend(int place, int first, int second) {
+  return kReadStructuredAppend + (place * 256 + first) * 256 + second;
+}
+constexpr int ReadEci(int number) { return 100000000 + number; }
 
 struct Reading {
   std::vector<int> items;
