@@ -75,8 +75,8 @@ enum BarhatchSymbology {
   BARHATCH_INTERLEAVED_2_OF_5 = 21, /* digits; an odd number of them gets a 0 in front */
   BARHATCH_CODE_93_FULL = 22,      /* ASCII */
   BARHATCH_DATA_MATRIX = 100,      /* ECC 200 */
-  BARHATCH_ITF_14 = 101,           /* not in this version */
-  BARHATCH_CODE_39_FULL = 102      /* not in this version */
+  BARHATCH_ITF_14 = 101,           /* 13 digits, the check digit is added, or 14 with it */
+  BARHATCH_CODE_39_FULL = 102      /* ASCII, spelled out in pairs where Code 39 lacks it */
 };
 
 /* job.conformance */
@@ -89,28 +89,32 @@ enum BarhatchConformance {
 enum BarhatchInput {
   BARHATCH_UTF8 = 0,      /* UTF-8, length bytes of it, or up to the NUL */
   BARHATCH_BYTES = 1,     /* bytes, each one a character */
-  BARHATCH_GS1 = 2,       /* element strings; not in this version */
+  BARHATCH_GS1 = 2,       /* UTF-8, an element string of GS1: "(01)09501101530003(10)ABC" or as a reader reports it */
   BARHATCH_ESCAPED = 3,   /* UTF-8 with escapes: ^000 to ^255 a byte, ^FNC1 to ^FNC3, ^ECI000026, ^^ the caret */
   BARHATCH_UNITS = 4,     /* 16-bit units, as barhatch.h takes them; length counts units */
   BARHATCH_CODEWORDS = 5  /* bytes, data codewords of a Data Matrix: pads, error correction and placement are added */
 };
 
-/* job.check: 0, the symbology's own check characters, is what this version has */
+/* job.check, of marks by the book: which check characters a symbol has. Those of the usual scheme are modulo 43 of
+ * Code 39, modulo 16 of Codabar, modulo 10 of Interleaved 2 of 5, ITF-14 and MSI, and of Code 11 C up to ten characters of
+ * data, C and K above.
+ * reading has the check character of Code 39, Codabar and Interleaved 2 of 5 behind the data, as readers report it that do
+ * not know the scheme; of MSI, Code 11 and Code 39 full ASCII it has the data alone, and hri the check characters too. */
 enum BarhatchCheck {
-  BARHATCH_CHECK_OWN = 0,      /* the symbology's own */
-  BARHATCH_CHECK_NONE = 1,     /* not in this version */
-  BARHATCH_CHECK_VERIFY = 2,   /* not in this version */
-  BARHATCH_CHECK_MOD_43 = 3,   /* not in this version */
-  BARHATCH_CHECK_MOD_16 = 4,   /* not in this version */
-  BARHATCH_CHECK_ITF_10 = 5,   /* not in this version */
-  BARHATCH_MSI_10 = 6,         /* not in this version */
-  BARHATCH_MSI_10_10 = 7,      /* not in this version */
-  BARHATCH_MSI_11 = 8,         /* not in this version */
-  BARHATCH_MSI_11_10 = 9,      /* not in this version */
-  BARHATCH_MSI_NCR_11 = 10,    /* not in this version */
-  BARHATCH_MSI_NCR_11_10 = 11, /* not in this version */
-  BARHATCH_CODE_11_C = 12,     /* not in this version */
-  BARHATCH_CODE_11_CK = 13     /* not in this version */
+  BARHATCH_CHECK_OWN = 0,      /* the symbology's own: none of Codabar, Code 39, Interleaved 2 of 5; else the usual ones */
+  BARHATCH_CHECK_NONE = 1,     /* none, where a symbology may go without */
+  BARHATCH_CHECK_VERIFY = 2,   /* the text brings those of the usual scheme: a wrong one is refused */
+  BARHATCH_CHECK_MOD_43 = 3,   /* Code 39: one is added */
+  BARHATCH_CHECK_MOD_16 = 4,   /* Codabar: one is added in front of the stop */
+  BARHATCH_CHECK_ITF_10 = 5,   /* Interleaved 2 of 5: a digit is added, weights 3 and 1 */
+  BARHATCH_MSI_10 = 6,         /* MSI: one digit, modulo 10, the usual scheme */
+  BARHATCH_MSI_10_10 = 7,      /* two digits, each modulo 10 */
+  BARHATCH_MSI_11 = 8,         /* one digit, modulo 11 with weights 2 to 7 */
+  BARHATCH_MSI_11_10 = 9,      /* that and one modulo 10 */
+  BARHATCH_MSI_NCR_11 = 10,    /* one digit, modulo 11 with weights 2 to 9 */
+  BARHATCH_MSI_NCR_11_10 = 11, /* that and one modulo 10 */
+  BARHATCH_CODE_11_C = 12,     /* Code 11: C alone, whatever the length */
+  BARHATCH_CODE_11_CK = 13     /* C and K, whatever the length */
 };
 
 /* job.envelope: the message of ISO/IEC 15434 that the text of a Data Matrix is */
@@ -147,7 +151,7 @@ enum BarhatchFlag {
                                         for any byte; a backslash in front of them and of a backslash means the
                                         character itself. The result has rows, columns, capacity, extents and, as codewords, enough for each; no modules,
                                         values, reading or strokes. A job of that size marks every one */
-  BARHATCH_ADD_START_STOP = 512,     /* not in this version */
+  BARHATCH_ADD_START_STOP = 512,     /* Codabar: A on both sides of a text that has neither start nor stop */
   BARHATCH_READER_PROGRAMMING = 1024 /* Data Matrix: the text is for the reader's settings */
 };
 
@@ -297,7 +301,7 @@ typedef struct BarhatchResult {
   const uint8_t* modules;    /* rows x columns of BarhatchModule, row by row from the top */
   const uint8_t* values;     /* codewords with pads and error correction, or symbol character values */
   size_t values_count;       /* of values */
-  const char* hri;           /* reading, to stand beside a linear symbol; null where there is none */
+  const char* hri;           /* text to stand beside a linear symbol, with check digits; null where there is none */
   const char* reading;       /* the bytes that a standard reader reports, with a NUL behind them; null: it reads nothing */
   size_t reading_length;     /* bytes of reading without that NUL */
   const char* name;          /* of the symbology; also with a refusal, null where it is unknown */

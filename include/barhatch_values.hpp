@@ -38,8 +38,8 @@ enum class Symbology : std::int32_t {
   kInterleaved2of5 = BARHATCH_INTERLEAVED_2_OF_5,  // digits
   kCode93FullAscii = BARHATCH_CODE_93_FULL,        // ASCII
   kDataMatrix = BARHATCH_DATA_MATRIX,              // ECC 200
-  kItf14 = BARHATCH_ITF_14,                        // not in this version
-  kCode39FullAscii = BARHATCH_CODE_39_FULL         // not in this version
+  kItf14 = BARHATCH_ITF_14,                        // 13 or 14 digits
+  kCode39FullAscii = BARHATCH_CODE_39_FULL         // ASCII
 };
 
 // By what rules it is written.
@@ -60,19 +60,19 @@ enum class Envelope : std::int32_t {
 // Which check characters are written.
 enum class Check : std::int32_t {
   kOwn = BARHATCH_CHECK_OWN,             // the symbology's own
-  kNone = BARHATCH_CHECK_NONE,           // not in this version
-  kVerify = BARHATCH_CHECK_VERIFY,       // not in this version
-  kMod43 = BARHATCH_CHECK_MOD_43,        // not in this version
-  kMod16 = BARHATCH_CHECK_MOD_16,        // not in this version
-  kItf10 = BARHATCH_CHECK_ITF_10,        // not in this version
-  kMsi10 = BARHATCH_MSI_10,              // not in this version
-  kMsi1010 = BARHATCH_MSI_10_10,         // not in this version
-  kMsi11 = BARHATCH_MSI_11,              // not in this version
-  kMsi1110 = BARHATCH_MSI_11_10,         // not in this version
-  kMsiNcr11 = BARHATCH_MSI_NCR_11,       // not in this version
-  kMsiNcr1110 = BARHATCH_MSI_NCR_11_10,  // not in this version
-  kCode11C = BARHATCH_CODE_11_C,         // not in this version
-  kCode11CK = BARHATCH_CODE_11_CK        // not in this version
+  kNone = BARHATCH_CHECK_NONE,           // none
+  kVerify = BARHATCH_CHECK_VERIFY,       // those of the text, verified
+  kMod43 = BARHATCH_CHECK_MOD_43,        // Code 39
+  kMod16 = BARHATCH_CHECK_MOD_16,        // Codabar
+  kItf10 = BARHATCH_CHECK_ITF_10,        // Interleaved 2 of 5
+  kMsi10 = BARHATCH_MSI_10,              // one digit, modulo 10
+  kMsi1010 = BARHATCH_MSI_10_10,         // two digits, modulo 10
+  kMsi11 = BARHATCH_MSI_11,              // modulo 11, weights 2 to 7
+  kMsi1110 = BARHATCH_MSI_11_10,         // modulo 11, then 10
+  kMsiNcr11 = BARHATCH_MSI_NCR_11,       // modulo 11, weights 2 to 9
+  kMsiNcr1110 = BARHATCH_MSI_NCR_11_10,  // modulo 11, then 10
+  kCode11C = BARHATCH_CODE_11_C,         // C alone
+  kCode11CK = BARHATCH_CODE_11_CK        // C and K
 };
 
 // Which sizes a Data Matrix is chosen from.
@@ -95,7 +95,7 @@ enum class Flag : std::uint32_t {
   kNoProof = BARHATCH_NO_PROOF,                     // the finished symbol is not decoded again
   kMayGrow = BARHATCH_MAY_GROW,                     // a Data Matrix beyond rows x columns
   kMask = BARHATCH_MASK,                            // Data Matrix: the size of many texts
-  kAddStartStop = BARHATCH_ADD_START_STOP,          // not in this version
+  kAddStartStop = BARHATCH_ADD_START_STOP,          // Codabar: A on both sides where there is none
   kReaderProgramming = BARHATCH_READER_PROGRAMMING  // Data Matrix: settings of the reader
 };
 

@@ -75,6 +75,11 @@ def left_out(text):
 
 # Mutants that no test can tell from the original: file, what the line says, what it says then, the reason.
 EQUIVALENT = (
+    ("ApplicationIdentifiers.cpp", "ai < 1000 ?", "ai <= 1000 ?", "one zero less of zeros alone leaves zeros"),
+    ("ElementChecks.cpp", "2000 + PairAt(part, 0)", "2000 - PairAt(part, 0)", "a leap year as far behind 2000 as before it"),
+    ("ElementChecks.cpp", "* 100 + PairAt(part, 2)", "* 100 - PairAt(part, 2)", "a leap year as far behind the century as before it"),
+    ("ApplicationIdentifiers.cpp", "(i + 1);", "(i + 2);", "one range more does not have the identifier"),
+    ("ElementChecks.cpp", "left < component.longest", "left <= component.longest", "the smaller of two that are equal is either"),
     ("EanUpcElements.cpp", "(count - i) % 2", "(count + i) % 2", "a sum and a difference are odd together"),
     ("Interleaved2of5.cpp", "digits.length - 1 - i", "digits.length - 1 + i", "a sum and a difference are odd together"),
     ("Interleaved2of5.cpp", "digits.length - 1 - i", "digits.length + 1 - i", "two apart are odd together"),

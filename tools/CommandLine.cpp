@@ -189,8 +189,8 @@ bool HasOutput(const Options& options, std::initializer_list<const char*> ending
 
 bool IsForMatrix(const Options& o) { return IsMatrix(o.request); }
 bool IsForLinear(const Options& o) { return !IsMatrix(o.request); }
-bool IsByTheBook(const Options& o) { return ConformanceOf(o.request) == BARHATCH_PUBLISHED; }
-bool IsOfTheDevice(const Options& o) { return !IsByTheBook(o); }
+bool IsByTheBook(const Options& o) { return !o.request.device; }
+bool IsOfTheDevice(const Options& o) { return o.request.device; }
 bool HasSvg(const Options& o) { return HasOutput(o, {".svg"}); }
 bool HasPixels(const Options& o) { return o.verify || HasOutput(o, {".png"}); }
 bool HasPicture(const Options& o) { return HasSvg(o) || HasPixels(o); }

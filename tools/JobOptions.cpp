@@ -29,8 +29,14 @@ constexpr Values kShapes = {
     {"rectangle", BARHATCH_RECTANGLE},
     {"any", BARHATCH_ANY_SHAPE},
     {"dmre", BARHATCH_DMRE},
+    {"dmre-rectangle", BARHATCH_DMRE_RECTANGLE},
 };
-constexpr Values kEnvelopes = {{"5", 5}, {"6", 6}, {"12", 12}, {"dd", 100}};
+constexpr Values kEnvelopes = {
+    {"5", BARHATCH_ENVELOPE_05},
+    {"6", BARHATCH_ENVELOPE_06},
+    {"12", BARHATCH_ENVELOPE_12},
+    {"dd", BARHATCH_ENVELOPE_DD},
+};
 constexpr std::int32_t kFnc1Format = 1;
 
 struct Choice {
@@ -53,6 +59,7 @@ struct Number {
 };
 constexpr Number kNumbers[] = {
     {"--addon-gap", &BarhatchJob::addon_gap, "modules in front of the add-on of EAN and UPC"},
+    {"--part-id", &BarhatchJob::part_id, "number of the message of a --part"},
     {"--eci", &BarhatchJob::eci, "ECI in front of the text of a Data Matrix"},
 };
 
@@ -100,18 +107,22 @@ const Value* ValueOf(const Values& values, const std::string& name) {
   return nullptr;
 }
 
-void AddChoice(CLI::App& app, BarhatchJob& job, const Choice& choice) {
-  const auto set = [&](const std::string& name) {
-    job.*choice.field = ValueOf(choice.values, name)->number;
-  };
-  const auto check = [&](const std::string& name) -> std::string {
-    if (ValueOf(choice.values, name) != nullptr) return "";
-    return fmt::format("\"{}\" is none of {}", name, NamesOf(choice.values));
-  };
-  const std::string names = NamesOf(choice.values);
-  app.add_option_function<std::string>(choice.option, set,
-                                       fmt::format("{}: {}", choice.description, names))
-      ->check(check);
+void SetValue(BarhatchJob& job, const Choice& choice, const std::string& name) {
+  const Value* const value = ValueOf(choice.values, name);
+  if (value == nullptr) {
+    const std::string names = NamesOf(choice.values);
+    throw CLI::ValidationError(choice.option, fmt::format("\"{}\" is none of {}", name, names));
+  }
+  job.*choice.field = value->number;
+}
+
+// "1/3": the first of three.
+void SetPart(BarhatchJob& job, const std::string& text) {
+  const std::size_t slash = text.find('/');
+  if (slash == std::string::npos || !CLI::detail::lexical_cast(text.substr(0, slash), job.part) ||
+      !CLI::detail::lexical_cast(text.substr(slash + 1), job.parts)) {
+    throw CLI::ValidationError("--part", fmt::format("\"{}\" is no part such as 1/3", text));
+  }
 }
 
 }  // namespace
@@ -133,8 +144,15 @@ void DescribeJobOptions(CLI::App& app, BarhatchJob& job) {
       option->excludes(app.get_option(other->option));
     }
   }
-  for (const Choice& row : kChoices) AddChoice(app, job, row);
+  for (const Choice& row : kChoices) {
+    app.add_option_function<std::string>(
+        row.option, [&job, &row](const std::string& name) { SetValue(job, row, name); },
+        fmt::format("{}: {}", row.description, NamesOf(row.values)));
+  }
   for (const Number& row : kNumbers) app.add_option(row.option, job.*row.field, row.description);
+  app.add_option_function<std::string>(
+      "--part", [&job](const std::string& text) { SetPart(job, text); },
+      "the Data Matrix is a part of a message, such as 1/3");
   app.add_option_function<std::int32_t>(
          "--format", [&job](std::int32_t format) { SetFormat(job, format); },
          "code format of the device: 1 FNC1 second, 2 and 3 macro headers")

@@ -50,10 +50,11 @@ Look LookOf(const Options& options, double symbolWidth, double moduleSize) {
   // Points have no gap: dots that touch are the least that readers of pictures see as modules.
   const double usualBeam =
       options.request.job.pattern == BARHATCH_POINTS ? moduleSize : options.request.job.gap;
-  return {
-      options.margin >= 0.0 ? options.margin : symbolWidth / 10,
-      options.beam > 0.0 ? options.beam : usualBeam, options.darkPart ? Part::kDark : Part::kLight,
-      options.request.job.pattern == BARHATCH_SPIRAL ? StrokeEnds::kProjecting : StrokeEnds::kFlush};
+  return {options.margin >= 0.0 ? options.margin : symbolWidth / 10,
+          options.beam > 0.0 ? options.beam : usualBeam,
+          options.darkPart ? Part::kDark : Part::kLight,
+          options.request.job.pattern == BARHATCH_SPIRAL ? StrokeEnds::kProjecting
+                                                         : StrokeEnds::kFlush};
 }
 
 std::optional<Picture> PictureOf(const Drawing& drawing, const Look& look, const Options& options,

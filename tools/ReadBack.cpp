@@ -11,11 +11,12 @@ namespace preview {
 
 bool CanReadBack() { return true; }
 
-std::optional<Reading> ReadBack(const Picture& picture) {
+std::optional<Reading> ReadBack(const Picture& picture, bool isFullAscii) {
   const ZXing::ImageView view(picture.pixels.data(), static_cast<int>(picture.width),
                               static_cast<int>(picture.height), ZXing::ImageFormat::Lum);
   ZXing::DecodeHints hints;
   hints.setEanAddOnSymbol(ZXing::EanAddOnSymbol::Read);
+  hints.setTryCode39ExtendedMode(isFullAscii);
   const ZXing::Result result = ZXing::ReadBarcode(view, hints);
   if (!result.isValid()) return std::nullopt;
   const std::string bytes(result.bytes().begin(), result.bytes().end());
@@ -26,7 +27,7 @@ std::optional<Reading> ReadBack(const Picture& picture) {
 
 bool CanReadBack() { return false; }
 
-std::optional<Reading> ReadBack(const Picture&) { return std::nullopt; }
+std::optional<Reading> ReadBack(const Picture&, bool) { return std::nullopt; }
 
 #endif
 

@@ -20,8 +20,9 @@ struct Reading {
 // True when the program was built with a reader.
 bool CanReadBack();
 
-// Nothing when no reader finds a symbol.
-std::optional<Reading> ReadBack(const Picture& picture);
+// Nothing when no reader finds a symbol. Pairs of Code 39 are read as the characters of full ASCII
+// that they stand for where that is asked for.
+std::optional<Reading> ReadBack(const Picture& picture, bool isFullAscii);
 
 }  // namespace preview
 

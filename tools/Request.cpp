@@ -84,12 +84,11 @@ bool HasQuietZoneInside(const Request& request) {
 }
 
 std::int32_t ConformanceOf(const Request& request) {
-  const bool isByTheBook = !request.device && IsWritten(request.job.symbology, BARHATCH_PUBLISHED);
-  return isByTheBook ? BARHATCH_PUBLISHED : BARHATCH_DEVICE;
+  return request.device ? BARHATCH_DEVICE : BARHATCH_PUBLISHED;
 }
 
 const char* ConformanceName(const Request& request) {
-  return ConformanceOf(request) == BARHATCH_DEVICE ? "as the device writes it" : "by the book";
+  return request.device ? "as the device writes it" : "by the book";
 }
 
 }  // namespace preview

@@ -16,7 +16,7 @@ BarhatchJob UsualJob();
 
 struct Request {
   BarhatchJob job = UsualJob();  // without text, conformance and quiet zone, which JobOf fills in
-  bool device = false;           // as the device writes it, also where there is a mark by the book
+  bool device = false;           // as the device writes it, and not by the book
   std::string text;              // as the input of the job has it
 };
 
@@ -46,7 +46,6 @@ bool IsMatrix(const Request& request);
 // The quiet zone is a part of the size.
 bool HasQuietZoneInside(const Request& request);
 
-// By the book where this version can and the user does not want the device's.
 std::int32_t ConformanceOf(const Request& request);
 
 // "by the book" or "as the device writes it".

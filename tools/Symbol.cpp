@@ -51,7 +51,8 @@ Verdict VerifyAt(const Symbol& symbol, const Options& options, double pixelsPerU
   const Look look = LookOf(options, symbol.drawing.width, symbol.result.xDimension());
   const std::optional<Picture> picture = PictureOf(symbol.drawing, look, resolved, reason);
   if (!picture) return {false, false, reason};
-  return Judge(symbol.request, symbol.result, ReadBack(*picture));
+  const bool isFullAscii = symbol.request.job.symbology == BARHATCH_CODE_39_FULL;
+  return Judge(symbol.request, symbol.result, ReadBack(*picture, isFullAscii));
 }
 
 // What keeps a reader from seeing the symbol in this picture, where the options tell it.

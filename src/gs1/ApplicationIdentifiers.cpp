@@ -368,13 +368,13 @@ constexpr unsigned SetsOf(char character) {
   return sets;
 }
 
-constexpr int kSetCharacters = 128;
+constexpr int kBytes = 256;
 
 struct SetTable {
-  std::uint8_t of[kSetCharacters] = {};
+  std::uint8_t of[kBytes] = {};
 
   constexpr SetTable() {
-    for (int i = 0; i < kSetCharacters; ++i)
+    for (int i = 0; i < kBytes; ++i)
       of[i] = static_cast<std::uint8_t>(SetsOf(static_cast<char>(i)));
   }
 
@@ -411,7 +411,7 @@ std::size_t IndexOfAi(const AiRange& range, AiCode ai) {
 }
 
 bool HasAiCharacter(AiCharacters set, Token character) {
-  return character < kSetCharacters && (kSets.of[character] & Bit(set)) != 0;
+  return IsByte(character) && (kSets.of[character] & Bit(set)) != 0;
 }
 
 }  // namespace barhatch

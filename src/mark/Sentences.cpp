@@ -274,6 +274,25 @@ void SayFunction(const BarhatchJob& job, const SymbologyName& name, std::int32_t
   if (job.conformance == BARHATCH_DEVICE) message << " of the device";
 }
 
+void SayCheckRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
+                     Message& message) {
+  const SymbologyName& name = *NameOf(job.symbology);
+  switch (refusal.reason) {
+    case Reason::kNoCheck:
+      message << "the check digit modulo 11 of this text would be 10: it has none";
+      break;
+    case Reason::kOnlyCheck:
+      message << name.name << " needs a character in front of the check character";
+      break;
+    case Reason::kCheckCount:
+      message << refusal.figure << " characters are none with check characters of " << name.name;
+      break;
+    default:
+      SayCheck(job, refusal.figure, place, message);
+      break;
+  }
+}
+
 void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
                     Message& message) {
   const SymbologyName& name = *NameOf(job.symbology);
@@ -304,16 +323,10 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
       message << "number system " << refusal.figure - '0' << " at " << place << " is none: 0 and 1";
       break;
     case Reason::kCheck:
-      SayCheck(job, refusal.figure, place, message);
-      break;
     case Reason::kNoCheck:
-      message << "the check digit modulo 11 of this text would be 10: it has none";
-      break;
     case Reason::kOnlyCheck:
-      message << name.name << " needs a character in front of the check character";
-      break;
     case Reason::kCheckCount:
-      message << refusal.figure << " characters are none with check characters of " << name.name;
+      SayCheckRefusal(job, refusal, place, message);
       break;
     case Reason::kNoStart:
       message << "start character missing at " << place;
@@ -339,12 +352,20 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
   }
 }
 
+bool IsOfElements(Reason reason) {
+  return reason >= Reason::kUnknownAi && reason <= Reason::kGs1Syntax;
+}
+
 }  // namespace
 
 std::int32_t StatusOf(Reason reason) { return kStatuses[static_cast<int>(reason)].status; }
 
 void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
                 Message message) {
+  if (IsOfElements(refusal.reason)) {
+    SayElementRefusal(refusal, place, message);
+    return;
+  }
   switch (refusal.reason) {
     case Reason::kTooManyValues:
       message << refusal.figure << " symbol characters, at most " << kMostShortestValues;
@@ -389,18 +410,6 @@ void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t pla
       break;
     case Reason::kProof:
       message << "the symbol does not decode to the text: a defect of the library";
-      break;
-    case Reason::kUnknownAi:
-    case Reason::kAiTooLong:
-    case Reason::kAiTooShort:
-    case Reason::kAiCharacter:
-    case Reason::kAiCheckDigit:
-    case Reason::kAiCheckPair:
-    case Reason::kAiDate:
-    case Reason::kAiValue:
-    case Reason::kAiRepeated:
-    case Reason::kGs1Syntax:
-      SayElementRefusal(refusal, place, message);
       break;
     case Reason::kNoMemory:
       message << "no memory";

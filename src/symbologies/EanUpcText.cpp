@@ -157,8 +157,8 @@ Refusal ReadMain(const MainForm& form, const Characters& main, Conformance& how,
 
 }  // namespace
 
-Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, Conformance& how,
-                       EanUpcDigits& read) {
+Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, CheckScheme check,
+                       Conformance& how, EanUpcDigits& read) {
   const Refusal characters = CheckCharacters(text);
   if (characters.IsRefused()) return characters;
 
@@ -172,6 +172,9 @@ Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, Conformance& 
   const EanUpcSymbol plain = PlainOf(asked);
   const MainForm* const form = FormOf(plain, parts);
   if (form == nullptr) return RefusedLength(text, parts);
+  if (check == CheckScheme::kVerify && !form->hasCheckDigit) {
+    return {Reason::kCheckCount, -1, FigureOf(parts.main.length)};
+  }
   const bool isBesideEan8 = plain == EanUpcSymbol::kEan8 && addon.length != 0;
   if (isBesideEan8 && !how.Deviates(Deviation::kDEAN_2)) {
     return {Reason::kNotStandard, At(parts.main.length), 0, behindMain};
@@ -189,7 +192,7 @@ Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, Conformance& 
 Refusal PrepareEanUpc(const LinearOptions& options, PreparedText& text, Conformance& how) {
   EanUpcDigits read;
   const auto asked = static_cast<EanUpcSymbol>(text.variant);
-  const Refusal refusal = ReadEanUpcText(asked, {text.room, text.length}, how, read);
+  const Refusal refusal = ReadEanUpcText(asked, {text.room, text.length}, options.check, how, read);
   if (refusal.IsRefused()) return refusal;
   std::memcpy(text.room, read.digits, read.length + 1);
   text.length = read.length;

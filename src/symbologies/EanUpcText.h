@@ -37,10 +37,11 @@ struct EanUpcDigits {
 };
 
 // Takes a text of the asked symbol apart; a symbol without add-on may get one by its sign. Refused
-// with the position of the character, sign or first digit that is wrong. Deviates asks for what the
-// standard leaves out: an add-on beside EAN-8 (D-EAN-2), number system 1 of UPC-E (D-EAN-3).
-Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, Conformance& how,
-                       EanUpcDigits& read);
+// with the position of the character, sign or first digit that is wrong. CheckScheme::kVerify asks
+// for the forms with a check digit. Deviates asks for what the standard leaves out: an add-on
+// beside EAN-8 (D-EAN-2), number system 1 of UPC-E (D-EAN-3).
+Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, CheckScheme check,
+                       Conformance& how, EanUpcDigits& read);
 
 // The preparation of the family's types: the digits, the variant with the add-on and the gap that
 // is asked for, and the quiet zone behind the add-on. The option's gap is 0 or one that the

@@ -153,7 +153,7 @@ struct EanUpcTexts {
 constexpr SymbologyRow EanUpc(SymbologyRow row, const char* deviceAccepts, EanUpcSymbol symbol,
                               std::uint8_t left, std::uint8_t right) {
   row.name.deviceAccepts = deviceAccepts;
-  row.prepare = PrepareEanUpc;
+  row = Prepared(row, PrepareEanUpc, Checks(CheckScheme::kOwn, CheckScheme::kVerify));
   row.drawing.variant = Variant(symbol);
   return WithQuiet(Read(row, WithCheckDigit(symbol)), left, right);
 }

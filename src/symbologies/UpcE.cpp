@@ -34,6 +34,13 @@ bool IsSuppressedForm(const char* six) {
   return last < '5' || six[4] != '0';
 }
 
+bool IsSameNumber(const char* a, const char* b) {
+  for (int i = 0; i < kUpcADigits; ++i) {
+    if (a[i] != b[i]) return false;
+  }
+  return true;
+}
+
 // What the six digits that suppress the zeros by the rule of this last digit would be.
 void TakeSix(const char* upcA, char last, char* six) {
   const char* const places = kExpansions[last - '0'];
@@ -73,7 +80,7 @@ bool SuppressUpcA(const char* upcA, char* upcE) {
     char number[kUpcADigits + 1];
     TakeSix(upcA, last, attempt + 1);
     ExpandUpcE(attempt, number);
-    if (std::memcmp(number, upcA, kUpcADigits) == 0 && IsSuppressedForm(attempt + 1)) {
+    if (IsSameNumber(number, upcA) && IsSuppressedForm(attempt + 1)) {
       std::memcpy(upcE, attempt, sizeof attempt);
       return true;
     }

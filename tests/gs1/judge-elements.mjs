@@ -4,7 +4,7 @@
 //   node judge-elements.mjs DIRECTORY-OF-BWIP-JS COUNT SEED >judged-elements.txt
 //
 // Every row of dictionary.txt gives one string that is right and several that are not; COUNT random sequences of elements follow,
-// every second one with an accident. The same count and seed give the same lines.
+// every second one with an accident. Before them stand strings at the edges of each check. The same count and seed give the same lines.
 import { readFileSync } from "node:fs";
 import { createRequire } from "node:module";
 import { resolve } from "node:path";
@@ -209,6 +209,38 @@ function sequence() {
   return below(2) ? line : oneOf(ACCIDENTS)(line, below(line.length));
 }
 
+// ---- What lies at the edge of a check ----
+
+const daysOf = (ai, year, behind) => Array.from({ length: 12 }, (_, month) => ["00", "01", "28", "29", "30", "31", "32"].map((day) => [ai, year + two(month + 1) + day + behind])).flat();
+const EDGES = [
+  ...daysOf("17", "26", ""), ...daysOf("4326", "24", ""), ...daysOf("7251", "2026", "0000"),
+  ...["000229", "010229", "040229", "990229", "960229"].map((date) => ["11", date]),
+  ...["19000229", "20000229", "20040229", "20010229", "21000229", "24000229", "00000229", "04000101", "20190931"].map((date) => ["7250", date]),
+  ...["2359", "2400", "1960", "1959", "0000", "0060"].map((time) => ["7003", "260101" + time]),
+  ...["23", "24", "2359", "2360", "235959", "235960", "000000"].map((time) => ["8008", "260101" + time]),
+  ...["a", "ab", "abc", "abcd", "ab=", "ab==", "a==", "abc=", "a=b", "a=b=", "=", "==", "===", "abcdef==", "abcde=", "abcdef===", "a===", "ab=c", "abcd=c", "abcd==", "abcdefg==", "abc==="].map((value) => ["8030", value]),
+  ...["DE89370400440532013000", "GB82WEST12345698765432", "DE091", "DE57A", "DE0312", "DE36", "DE8", "D", "DE77abc", "1289370400440532013000", "D189370400440532013000", "1E89370400440532013000", "DE89370400440532013001", "DE89370400440532013000-"].map((value) => ["8007", value]),
+  ...["1800000000", "1800000001", "1799999999"].map((value) => ["4309", value + "3600000000"]),
+  ...["3600000001", "3599999999"].map((value) => ["4309", "1800000000" + value]),
+  ...["0101", "0102", "0201", "0001", "0100", "9999", "9998", "0000", "1010"].map((value) => ["8006", "09501101530003" + value]),
+  ...["1/1", "1/2", "2/1", "0/1", "1/0", "9/9", "0/0", "A/1", "1/A", "1-2", "111", "11/", "/11"].map((value) => ["7258", value]),
+  ...["%", "%2", "%20", "%2g", "%g2", "A%20%", "A%20%4", "%2F%2f", "%%20", "20%", "%20A", "%AG", "%GA", "%/0", "%0/", "%:0", "%0:", "%@0"].map((value) => ["4300", value]),
+  ..."-_=azAZ09+/".split("").map((value) => ["7040", "1AB" + value]),
+  ...["00", "01", "10", "11", "79", "80", "99"].map((value) => ["7241", value]),
+  ..."0123456789".split("").map((value) => ["7252", value]),
+  ..."0123456789".split("").map((value) => ["8001", "123412345123" + value + "1"]),
+  ...["00001234512311", "12340000012311", "12341234500011", "10000000100111"].map((value) => ["8001", value]),
+  ...["0", "1", "01", "00", "10"].map((value) => ["8011", value]),
+  ...["-", "A", "0", "", "--"].map((value) => ["4332", "123456" + value]),
+  ...["1", "12", "123", "1A", "A1", "12A", "1A2", "A12"].map((value) => ["8004", value]),
+  ...["1987654Ad4X4bL5ttr2310c2K", "1987654Ad4X4bL5ttr2310c2L", "1987654Ad4X4bL5ttr2310c3K", "12W", "1W2", "124A", "A2", "2W", "12", "1A7F", "12A7F", "100096"].flatMap((value) => [["8013", value], ["8014", value]]),
+  ...["A234", "1A34", "AB", "A", "1", "12", "1234", "12A"].flatMap((value) => [["8013", value + checkPair(value)], ["8014", value + checkPair(value)]]),
+  ...["", "1", "12", "123"].map((value) => ["8043", "123456789012345678" + value]),
+  ...["276", "276276", "27627", "276276276276276", "276276276276276276", "27627627627627"].map((value) => ["423", value]),
+  ...["0", "1", "9"].map((value) => ["8003", value + "9501101530003A"]),
+].map(([ai, value]) => element(ai, value));
+const WHOLE = ["(10)A(10)A", "(10)A(10)B", "(10)A(21)B(10)A", "(10)A(21)B(10)AB", "(10)AB(21)B(10)A", "(10)ABC(10)ABD", "(10)ABC(21)A(10)ABC", "(01)09501101530003(01)09501101530003", "(10)A)B", "(10))", "(10)A(B", "()1", "(1)1", "(10)", "(10)A()", "(10)A(12)", "(10)A((21)B", "(10)A\\B", "(010)A", "(3106)123456", "(3956)123456", "(3944)1234", "(04)1234567890123456"];
+
 // ---- The judge ----
 
 // Element widths by symbol character value, asked for one by one.
@@ -245,7 +277,7 @@ function judged(line) {
   }
 }
 
-const lines = [...rows.flatMap(linesOf), ...Array.from({ length: count }, sequence)];
+const lines = [...rows.flatMap(linesOf), ...EDGES, ...WHOLE, ...Array.from({ length: count }, sequence)];
 console.log(`# bwip-js ${version} judged these: judge-elements.mjs DIRECTORY ${count} ${seed}`);
 console.log("# element string TAB ok or the judge's refusal TAB data of the symbol, ^ for FNC1");
 for (const line of new Set(lines)) console.log([line, ...judged(line)].join("\t"));

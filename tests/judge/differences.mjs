@@ -99,3 +99,16 @@ export const LINEAR_DIFFERENCES = [
       return theirs === 'nothing' && Math.max(text.length, answer.values.length) >= DATA_CHARACTERS;
     } },
 ];
+
+const isOf144 = ({ rows, columns }) => rows === 144 && columns === 144;
+
+const INDUSTRY_144 = 16;
+
+export const MATRIX_DIFFERENCES = [
+  { judge: 'bwip-js, size', what: 'a smaller symbol', why: 'its look-ahead decides by the next few characters, the library by the whole text',
+    when: ({ isSmaller }) => isSmaller },
+  { judge: 'bwip-js', what: '144 x 144', why: 'it writes the order of the industry, the library that of the standard unless asked',
+    when: ({ job, answer }) => isOf144(answer) && (job.flags & INDUSTRY_144) === 0 },
+  { judge: 'zxing', what: 'spirals of 8 x 120 and 8 x 144', why: 'a spiral moves modules by half a gap, which the flattest symbols do not allow it',
+    when: ({ job, answer, theirs }) => job.pattern === 5 && answer.rows === 8 && answer.columns >= 120 && theirs === 'nothing' },
+];

@@ -8,9 +8,10 @@ import { isMainThread, parentPort, Worker, workerData } from 'node:worker_thread
 import { drawnBy } from './bwip.mjs';
 import { linear } from './linear.mjs';
 import { mark } from './marks.mjs';
+import { matrix } from './matrix.mjs';
 import { prepare } from './readers.mjs';
 
-const FAMILIES = [linear];
+const FAMILIES = [linear, matrix];
 const DIFFERENCES = FAMILIES.flatMap(({ differences }, family) => differences.map((row) => ({ ...row, family })));
 const BATCH = 500;
 const SAMPLED_OF_A_KIND = 15;

@@ -143,6 +143,18 @@ TEST(EanUpcMarks, TheGapIsForAddonsByTheBook) {
             "2 the device has an addon_gap of its own: it must be 0");
 }
 
+TEST(EanUpcMarks, TheCheckDigitMayBeDemanded) {
+  const auto verified = [](const char* text) {
+    BarhatchJob job = PublishedJobOf(3, text);
+    job.check = BARHATCH_CHECK_VERIFY;
+    const Mark mark(job);
+    return std::to_string(mark->status) + " " + mark.Message();
+  };
+  EXPECT_EQ(verified("9501101530003+12"), "0 ");
+  EXPECT_EQ(verified("950110153000+12"),
+            "5 12 characters are none with check characters of EAN-13");
+}
+
 // Modules left and right of the symbol.
 std::string Quiet(std::int32_t symbology, const std::string& text,
                   std::int32_t conformance = BARHATCH_PUBLISHED) {

@@ -36,6 +36,8 @@ const char* NameOf(Reason reason) {
       return "number system";
     case Reason::kCheck:
       return "check";
+    case Reason::kCheckCount:
+      return "check count";
     case Reason::kNotStandard:
       return "not standard";
     case Reason::kSecondSign:
@@ -59,10 +61,11 @@ DeviationSet Permitted() {
 }
 
 // "EAN-13 950110153000", or "check at 12, 51".
-std::string Read(EanUpcSymbol asked, const std::string& text, DeviationSet inForce = {}) {
+std::string Read(EanUpcSymbol asked, const std::string& text, DeviationSet inForce = {},
+                 CheckScheme check = CheckScheme::kOwn) {
   Conformance how(inForce);
   EanUpcDigits read = {};
-  const Refusal refusal = ReadEanUpcText(asked, {text.c_str(), text.size()}, how, read);
+  const Refusal refusal = ReadEanUpcText(asked, {text.c_str(), text.size()}, check, how, read);
   if (refusal.IsRefused()) {
     return NameOf(refusal.reason) + (" at " + std::to_string(refusal.position)) + ", " +
            std::to_string(refusal.figure);
@@ -95,6 +98,25 @@ TEST(EanUpcText, AWrongCheckDigitIsRefusedWithTheRightOne) {
   EXPECT_EQ(Read(kEan8, "96385075"), "check at 7, 52") << "4";
   EXPECT_EQ(Read(kUpcE, "04252615"), "check at 7, 52");
   EXPECT_EQ(Read(kUpcE, "042100005265"), "check at 11, 52");
+}
+
+TEST(EanUpcText, ACheckDigitMustBeGivenWhereItIsToBeVerified) {
+  const auto verified = [](EanUpcSymbol asked, const std::string& text) {
+    return Read(asked, text, {}, CheckScheme::kVerify);
+  };
+  EXPECT_EQ(verified(kEan13, "9501101530003"), "EAN-13 950110153000");
+  EXPECT_EQ(verified(kEan13, "9501101530004"), "check at 12, 51");
+  EXPECT_EQ(verified(kEan13, "950110153000"), "check count at -1, 12");
+  EXPECT_EQ(verified(kEan13, "950110153000+12"), "check count at -1, 12");
+  EXPECT_EQ(verified(EanUpcSymbol::kUpcAAddon2, "0360002914512"), "check count at -1, 11");
+  EXPECT_EQ(verified(kUpcA, "036000291452+12"), "UPC-A+2 0360002914512");
+  EXPECT_EQ(verified(kEan8, "9638507"), "check count at -1, 7");
+  for (const char* text : {"425261", "0425261", "04210000526"}) {
+    EXPECT_EQ(verified(kUpcE, text).substr(0, 11), "check count");
+  }
+  for (const char* text : {"04252614", "042100005264"}) {
+    EXPECT_EQ(verified(kUpcE, text), "UPC-E 0425261");
+  }
 }
 
 TEST(EanUpcText, UpcEOfSixDigitsHasNumberSystemZero) {
@@ -241,7 +263,8 @@ TEST(EanUpcText, WhatTheStandardLeavesOutIsMetWhereItIsPermitted) {
   const auto met = [](EanUpcSymbol asked, const std::string& text) {
     Conformance how(Permitted());
     EanUpcDigits read = {};
-    EXPECT_FALSE(ReadEanUpcText(asked, {text.c_str(), text.size()}, how, read).IsRefused());
+    EXPECT_FALSE(ReadEanUpcText(asked, {text.c_str(), text.size()}, CheckScheme::kOwn, how, read)
+                     .IsRefused());
     return how.Met();
   };
   EXPECT_TRUE(met(kEan8, "9638507+12").Has(Deviation::kDEAN_2));

@@ -81,16 +81,6 @@ TEST(Explanation, WarningsAreCountedAndTheGravestIsSaid) {
   EXPECT_EQ(Explained(request).find("warning"), std::string::npos);
 }
 
-TEST(Explanation, WhatTheLibraryCannotWriteByTheBookIsTheDevices) {
-  for (const std::int32_t symbology : {BARHATCH_CODE_39, BARHATCH_CODE_128, BARHATCH_DATA_MATRIX}) {
-    Request request = RequestOf(symbology, "");
-    const bool isPublished = IsWritten(symbology, BARHATCH_PUBLISHED);
-    EXPECT_EQ(ConformanceOf(request), isPublished ? BARHATCH_PUBLISHED : BARHATCH_DEVICE);
-    request.device = true;
-    EXPECT_EQ(ConformanceOf(request), BARHATCH_DEVICE);
-  }
-}
-
 TEST(Explanation, PermitTakesWhatTheStandardLeavesOut) {
   Request request = RequestOf(BARHATCH_UPC_E, "1425261");
   EXPECT_NE(Explained(request).find("refused (status 12)"), std::string::npos);

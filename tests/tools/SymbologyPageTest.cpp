@@ -91,14 +91,6 @@ bool DeviceTakesZeros(std::int32_t type, int count) {
   return static_cast<bool>(ResultOf(RequestOf(type, zeros, true)));
 }
 
-// "11, 7", or where the two differ "11, 5; on the device 11, 7".
-std::string QuietZoneIn(const std::string& cell, bool device) {
-  const std::string between = "; on the device ";
-  const std::size_t at = cell.find(between);
-  if (at == std::string::npos) return cell;
-  return device ? cell.substr(at + between.size()) : cell.substr(0, at);
-}
-
 std::string QuietZoneOf(const Result& result) {
   const auto modules = [&](double length) {
     return std::to_string(std::lround(length / result.xDimension()));
