@@ -146,6 +146,8 @@ EQUIVALENT = (
       for before, after in (("PTRDIFF_MAX) - bytes", "PTRDIFF_MAX) + bytes"), ("doubles > most", "doubles >= most"),
                             ("most / sizeof", "most * sizeof"), ("return false;", "return true;"),
                             ("(doubles > most / sizeof(double))", "(false)"))),
+    ("Sentences.cpp", "given > longest &&", "given >= longest &&", "a text as long as the longest is not refused for its length"),
+    ("Sentences.cpp", "dataCodewords < refusal", "dataCodewords <= refusal", "what holds exactly so many is the smallest, and taken"),
     ("Hatcher.cpp", "mostDoubles <= 0", "mostDoubles < 0", "a list of nothing makes no fill either"),
     ("LinePatterns.cpp", "strokes > kMostDoubles", "strokes >= kMostDoubles", "so many are refused with their coordinates"),
     ("SpiralPattern.cpp", "lower = lowEdge", "", "every bound is 0.0 from the start"),

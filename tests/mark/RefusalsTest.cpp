@@ -296,6 +296,7 @@ TEST(Refusals, RectanglesThatAreTriedByCapacity) {
 TEST(Refusals, SizesThatDoNotExist) {
   EXPECT_EQ(Refused(MatrixOf("123456", 11, 11)), "11 at 0+0: 11x11 is no size; 12x12 is the next");
   EXPECT_EQ(Refused(MatrixOf("123456", 8, 20)), "11 at 0+0: 8x20 is no size; 8x32 is the next");
+  EXPECT_EQ(Refused(MatrixOf("123456", 10, 26)), "11 at 0+0: 10x26 is no size; 12x26 is the next");
   EXPECT_EQ(Refused(MatrixOf("123456", 145, 145)), "11 at 0+0: 145x145 is no size");
   EXPECT_EQ(Refused(MatrixOf("123456", 255, 1, BARHATCH_MAY_GROW)), "11 at 0+0: 255x1 is no size");
   EXPECT_TRUE(Mark(MatrixOf("12345678", 11, 11, BARHATCH_MAY_GROW)).IsOk());
