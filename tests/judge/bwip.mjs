@@ -34,7 +34,7 @@ export const widthOf = (letters) => [...letters].reduce((sum, width) => sum + pa
 
 // Of Code 128, whose choice of sets is free: no longer than the judge's shortest symbol (from a set
 // that was asked for a symbol may be longer), and the judge draws the values as they are drawn.
-function judgeCode128({ job, answer }, theirs) {
+export function judgeCode128({ job, answer }, theirs) {
   const ours = lettersOfModules(answer.modules, false);
   if (theirs.refusal) return { ours, theirs: theirs.refusal };
   const values = [...answer.values].slice(0, -1).map((value) => `^${String(value).padStart(3, '0')}`);

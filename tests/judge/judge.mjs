@@ -7,12 +7,13 @@ import { availableParallelism } from 'node:os';
 import { parseArgs } from 'node:util';
 import { isMainThread, parentPort, Worker, workerData } from 'node:worker_threads';
 import { drawnBy } from './bwip.mjs';
+import { gs1 } from './gs1.mjs';
 import { linear } from './linear.mjs';
 import { mark } from './marks.mjs';
 import { matrix } from './matrix.mjs';
 import { prepare } from './readers.mjs';
 
-const FAMILIES = [linear, matrix];
+const FAMILIES = [linear, matrix, gs1];
 const DIFFERENCES = FAMILIES.flatMap(({ differences }, family) => differences.map((row) => ({ ...row, family })));
 const BATCH = 500;
 const EVERY_SPOILT = 9;
