@@ -3,11 +3,11 @@
 #include <cstring>
 
 #include "datamatrix/PublishedMatrix.h"
+#include "datamatrix/TextProof.h"
 #include "mark/JobRecord.h"
 #include "mark/MatrixMark.h"
 #include "mark/MatrixTokens.h"
 #include "mark/Proof.h"
-#include "mark/Reading.h"
 #include "mark/TextTokens.h"
 
 namespace barhatch {
@@ -52,8 +52,7 @@ Refusal MakeText(const BarhatchJob& job, const TokenText& tokens, Conformance& h
   if (refusal.IsRefused()) return refusal;
   refusal = KeepMatrix(job, matrix, how, symbol, result);
   if (refusal.IsRefused()) return refusal;
-  const Characters reading = {symbol.reading, symbol.readingLength};
-  const bool isAsGiven = symbol.isRead && IsReadingOfTokens(tokens, text.head, reading);
+  const bool isAsGiven = SaysText(symbol.values, matrix.size.dataCodewords, text);
   return JudgeReading(job, isAsGiven, how.Met(), symbol.warnings);
 }
 
