@@ -316,10 +316,6 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
   }
 }
 
-bool IsOfElements(Reason reason) {
-  return reason >= Reason::kUnknownAi && reason <= Reason::kGs1Syntax;
-}
-
 }  // namespace
 
 std::int32_t StatusOf(Reason reason) { return kStatuses[static_cast<int>(reason)].status; }
