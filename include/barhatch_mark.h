@@ -28,7 +28,7 @@
  * conformance says by what rules a mark is made. BARHATCH_PUBLISHED writes what the published standard of a symbology says
  * and refuses the rest. BARHATCH_DEVICE writes what the exports of barhatch.h write, every known deviation included; the
  * result names the deviations that a mark has met. This version makes both of all 23 types
- * and Data Matrix.
+ * and Data Matrix, and ITF-14 and Code 39 full ASCII by the book.
  *
  * The records grow at their end in later versions: fields are never moved, numbers never used again. A record smaller than
  * the first version's is refused; of a larger job the bytes that this version does not know must be zero.

@@ -184,10 +184,11 @@ TEST(SymbologyPage, HasARowOfEveryType) {
 TEST(Symbologies, AreFoundByNumberAndByNameInAnyCase) {
   EXPECT_EQ(SymbologyFrom("0"), BARHATCH_CODABAR);
   EXPECT_EQ(SymbologyFrom("22"), BARHATCH_CODE_93_FULL);
+  EXPECT_EQ(SymbologyFrom("101"), BARHATCH_ITF_14);
   EXPECT_EQ(SymbologyFrom("Code39"), BARHATCH_CODE_39);
   EXPECT_EQ(SymbologyFrom("UPCE+5"), BARHATCH_UPC_E_ADDON_5);
   EXPECT_EQ(SymbologyFrom("DataMatrix"), BARHATCH_DATA_MATRIX);
-  for (const char* none : {"", "23", "100", "-1", "1x", "code", "code390"}) {
+  for (const char* none : {"", "23", "103", "-1", "1x", "code", "code390"}) {
     EXPECT_EQ(SymbologyFrom(none), std::nullopt) << none;
   }
 }
