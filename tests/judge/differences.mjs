@@ -56,8 +56,8 @@ export const LINEAR_DIFFERENCES = [
       const { name, addOn } = ROW[one.job.symbology];
       return name.startsWith('UPC-A') && [7, 8].includes(one.text.length - addOn) && isRefusedAs(one, BAD_LENGTH);
     } },
-  { judge: 'bwip-js', what: 'long Code 93', why: 'it takes texts of fewer symbol characters',
-    when: ({ job, text, theirs }) => [2, 22].includes(job.symbology) && text.length >= 100 && theirs.includes('code93inputTooLong') },
+  { judge: 'bwip-js', what: 'long Code 39 and Code 93', why: 'it takes texts of fewer symbol characters',
+    when: ({ job, text, theirs }) => [1, 102, 2, 22].includes(job.symbology) && text.length >= 100 && /code(39|93)inputTooLong/.test(theirs) },
   { judge: 'bwip-js', what: 'EAN and UPC with a sign and no add-on behind it', why: 'it draws the symbol alone; the library refuses it',
     when: (one) => ROW[one.job.symbology].isEanUpc && one.text.endsWith('+') && isRefusedAs(one, BAD_SYNTAX) },
   { judge: 'bwip-js', what: 'UPC-E of six digits and an add-on without a sign', why: 'as many digits as UPC-E with its check digit or a UPC-A number: refused',
