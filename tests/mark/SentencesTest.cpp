@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
 #include <string>
 
 #include "mark/MarkTesting.h"
@@ -35,12 +36,63 @@ std::string SaidOfReason(Reason reason) {
   return room;
 }
 
+struct NamesRow {
+  std::int32_t symbology;
+  const char* name;
+  const char* published;
+  const char* device;
+};
+
 }  // namespace
 
-TEST(Sentences, WhatAMatrixAccepts) {
-  EXPECT_STREQ(Mark(Matrix("1"))->accepts, "all characters, and bytes");
-  EXPECT_STREQ(Mark(JobOf(BARHATCH_DATA_MATRIX, "1"))->accepts,
-               "bytes; characters above 255 designate an ECI");
+TEST(Sentences, WhatEachSymbologyIsCalledAndAccepts) {
+  const NamesRow rows[] = {
+      {0, "Codabar", "digits and - $ : / . + between two of A B C D T N * E",
+       "digits and - $ : / . + between two of A B C D T N * E"},
+      {1, "Code 39", "digits, A-Z, - . $ / + % and space", "digits, A-Z, - . $ / + % and space"},
+      {2, "Code 93", "digits, A-Z, - . $ / + % and space", "digits, A-Z, - . $ / + % and space"},
+      {3, "EAN-13", "12 or 13 digits (and an add-on behind +)", "12 digits"},
+      {4, "MSI", "digits", "digits"},
+      {5, "Code 128", "characters from 0 to 255", "characters from 32 to 127"},
+      {6, "Code 128 from set A", "characters from 0 to 255", "characters from 32 to 127"},
+      {7, "Code 128 set B", "characters from 32 to 127", "characters from 32 to 127"},
+      {8, "Code 128 from set C", "characters from 0 to 255", "characters from 32 to 127"},
+      {9, "UPC-A", "11 or 12 digits (and an add-on behind +)", "11 digits"},
+      {10, "UPC-E", "6, 7, 8, 11 or 12 digits (and an add-on behind +)",
+       "7 digits: number system and six"},
+      {11, "Code 11", "digits and -", "digits and -"},
+      {12, "EAN-8", "7 or 8 digits", "7 digits"},
+      {13, "UPC-A with 2-digit add-on", "11 or 12 digits and 2 (+ may stand between)",
+       "13 digits: 11 and 2"},
+      {14, "UPC-A with 5-digit add-on", "11 or 12 digits and 5 (+ may stand between)",
+       "16 digits: 11 and 5"},
+      {15, "EAN-13 with 2-digit add-on", "12 or 13 digits and 2 (+ may stand between)",
+       "14 digits: 12 and 2"},
+      {16, "EAN-13 with 5-digit add-on", "12 or 13 digits and 5 (+ may stand between)",
+       "17 digits: 12 and 5"},
+      {17, "EAN-8 with 2-digit add-on", "7 or 8 digits and 2 (+ may stand between)",
+       "9 digits: 7 and 2"},
+      {18, "EAN-8 with 5-digit add-on", "7 or 8 digits and 5 (+ may stand between)",
+       "12 digits: 7 and 5"},
+      {19, "UPC-E with 2-digit add-on",
+       "7, 8, 11 or 12 digits and 2 (+ may stand between, also behind 6)", "9 digits: 7 and 2"},
+      {20, "UPC-E with 5-digit add-on",
+       "7, 8, 11 or 12 digits and 5 (+ may stand between, also behind 6)", "12 digits: 7 and 5"},
+      {21, "Interleaved 2 of 5", "digits", "digits"},
+      {22, "Code 93, full ASCII", "characters from 0 to 127", "characters from 0 to 127"},
+      {100, "Data Matrix", "all characters, and bytes",
+       "bytes; characters above 255 designate an ECI"},
+      {101, "ITF-14", "13 or 14 digits", "13 or 14 digits"},
+      {102, "Code 39, full ASCII", "characters from 0 to 127", "characters from 0 to 127"},
+  };
+  for (const NamesRow& row : rows) {
+    const Mark published(PublishedJobOf(row.symbology, ""));
+    EXPECT_STREQ(published->name, row.name);
+    EXPECT_STREQ(published->accepts, row.published);
+    const Mark device(JobOf(row.symbology, ""));
+    EXPECT_STREQ(device->name, row.name);
+    EXPECT_STREQ(device->accepts, row.device) << row.name;
+  }
 }
 
 TEST(Sentences, OneCodewordIsOne) {
