@@ -223,6 +223,7 @@ class Job:
     beside it, and every pattern but POINTS a gap."""
     symbology: Symbology = Symbology.CODABAR
     text: Union[str, bytes] = ""  # bytes: each one is a character
+    input: Optional[Input] = None  # GS1, ESCAPED, CODEWORDS; None: as the type of text says
     conformance: Conformance = Conformance.PUBLISHED
     envelope: Envelope = Envelope.NONE  # ISO/IEC 15434 around a Data Matrix
     check: Check = Check.OWN
@@ -261,9 +262,10 @@ class Job:
     part_id: int = 0              # the same in all of them
 
     def record(self):
-        fields = {name: getattr(self, name) for name in self.__dataclass_fields__ if name != "text"}
+        fields = {name: getattr(self, name) for name in self.__dataclass_fields__ if name not in ("text", "input")}
         text = self.text if isinstance(self.text, bytes) else self.text.encode()
         kind = Input.BYTES if isinstance(self.text, bytes) else Input.UTF8
+        kind = kind if self.input is None else self.input
         return BarhatchJob(size=ctypes.sizeof(BarhatchJob), text=text, length=len(text), input=kind, **fields)
 
     def characters(self, count):

@@ -34,8 +34,8 @@ namespace barhatch {
 // A name of its own keeps these types apart from those inside of the library.
 inline namespace host {
 
-// A text, kept by its job: UTF-8 ("ABC"), 16-bit units (u"ABC") or Text::Bytes. A NUL is a
-// character like any other.
+// A text, kept by its job: UTF-8 ("ABC"), 16-bit units (u"ABC"), or what one of the functions makes
+// of bytes. A NUL is a character like any other.
 class Text {
  public:
   Text() = default;
@@ -52,10 +52,14 @@ class Text {
   // Units.
   Text(std::u16string_view units) : units_(units), input_(BARHATCH_UNITS) {}
   // Each byte is a character.
-  static Text Bytes(std::string bytes) noexcept {
-    Text text(std::move(bytes));
-    text.input_ = BARHATCH_BYTES;
-    return text;
+  static Text Bytes(std::string bytes) noexcept { return Text(std::move(bytes), BARHATCH_BYTES); }
+  // Element strings: "(01)09501101530003(10)ABC".
+  static Text Gs1(std::string utf8) noexcept { return Text(std::move(utf8), BARHATCH_GS1); }
+  // With escapes: "^FNC1ABC^029".
+  static Text Escaped(std::string utf8) noexcept { return Text(std::move(utf8), BARHATCH_ESCAPED); }
+  // Each byte is a data codeword of a Data Matrix.
+  static Text Codewords(std::string bytes) noexcept {
+    return Text(std::move(bytes), BARHATCH_CODEWORDS);
   }
 
   std::int32_t Input() const noexcept { return input_; }  // BarhatchInput
@@ -67,6 +71,7 @@ class Text {
   std::size_t Length() const noexcept { return IsUnits() ? units_.size() : bytes_.size(); }
 
  private:
+  Text(std::string bytes, std::int32_t input) noexcept : bytes_(std::move(bytes)), input_(input) {}
   bool IsUnits() const noexcept { return input_ == BARHATCH_UNITS; }
 
   std::string bytes_;

@@ -28,7 +28,7 @@
  * conformance says by what rules a mark is made. BARHATCH_PUBLISHED writes what the published standard of a symbology says
  * and refuses the rest. BARHATCH_DEVICE writes what the exports of barhatch.h write, every known deviation included; the
  * result names the deviations that a mark has met. This version makes both of all 23 types
- * and Data Matrix.
+ * and Data Matrix, and ITF-14 and Code 39 full ASCII by the book.
  *
  * The records grow at their end in later versions: fields are never moved, numbers never used again. A record smaller than
  * the first version's is refused; of a larger job the bytes that this version does not know must be zero.
@@ -149,8 +149,9 @@ enum BarhatchFlag {
   BARHATCH_MAY_GROW = 128,           /* a Data Matrix may be larger than rows x columns */
   BARHATCH_MASK = 256,               /* Data Matrix: text stands for many, with # for a digit, A for a capital letter, ?
                                         for any byte; a backslash in front of them and of a backslash means the
-                                        character itself. The result has rows, columns, capacity, extents and, as codewords, enough for each; no modules,
-                                        values, reading or strokes. A job of that size marks every one */
+                                        character itself. The result has rows, columns, capacity, extents and, as
+                                        codewords, enough for each; no modules, values, reading or strokes. A job of that
+                                        size marks every one */
   BARHATCH_ADD_START_STOP = 512,     /* Codabar: A on both sides of a text that has neither start nor stop */
   BARHATCH_READER_PROGRAMMING = 1024 /* Data Matrix: the text is for the reader's settings */
 };

@@ -29,16 +29,19 @@ std::string RefusalLines(const Symbol& symbol) {
   return lines + Indented(std::string(result.message()));
 }
 
-std::string SymbolLines(const Result& result) {
+std::string SymbolLines(const Symbol& symbol) {
+  const Result& result = symbol.result;
   std::string lines = "accepted\n";
   const std::string warning = WarningText(result);
   if (!warning.empty()) lines += Indented("warning: " + warning);
   lines += Indented(std::string(result.DeviationLines().Text()));
-  if (result.capacity() > 0)
+  if (result.capacity() > 0) {
     lines += Indented(fmt::format("codewords: {} of {}", result.codewords(), result.capacity()));
-  if (result.Hri() && result.Hri() != result.Reading())
-    lines += Indented("for people: " + TextOf(result.Hri()));
-  return lines + Indented("a standard reader reads: " + TextOf(result.Reading()));
+  }
+  if (result.Hri() && result.Hri() != result.Reading()) {
+    lines += Indented("for people: " + Quoted(std::string(*result.Hri())));
+  }
+  return lines + Indented("a standard reader reads: " + ReadingText(symbol.request, result));
 }
 
 }  // namespace
@@ -47,7 +50,7 @@ std::string ExplanationText(const Symbol& symbol) {
   const Request& request = symbol.request;
   return fmt::format("{} {}, {}: {}", NameOf(request.job.symbology), Quoted(request.text),
                      ConformanceName(request),
-                     symbol.result ? SymbolLines(symbol.result) : RefusalLines(symbol));
+                     symbol.result ? SymbolLines(symbol) : RefusalLines(symbol));
 }
 
 }  // namespace preview

@@ -13,10 +13,15 @@ namespace preview {
 
 namespace {
 
+// Of a Data Matrix.
+std::string ModulesText(const Result& result) {
+  return fmt::format("{} x {} modules", result.rows(), result.columns());
+}
+
 std::string SizeFact(const Symbol& symbol) {
   std::string size = fmt::format("{:.6g} x {:.6g} mm", symbol.drawing.width, symbol.drawing.height);
   if (IsMatrix(symbol.request)) {
-    size += fmt::format(", {} x {} modules", symbol.result.rows(), symbol.result.columns());
+    size += ", " + ModulesText(symbol.result);
   }
   return size;
 }
@@ -92,9 +97,12 @@ std::optional<Failure> FailureOf(const Symbol& symbol) {
 }
 
 std::string Headline(const Symbol& symbol) {
-  return fmt::format("{} {}: {}, {}", NameOf(symbol.request.job.symbology),
-                     Quoted(symbol.request.text), CountText(StatisticsOf(symbol.drawing, {})),
-                     ConformanceName(symbol.request));
+  const Request& request = symbol.request;
+  std::string headline =
+      fmt::format("{} {}: {}", NameOf(request.job.symbology), Quoted(request.text),
+                  CountText(StatisticsOf(symbol.drawing, {})));
+  if (IsMatrix(request)) headline += fmt::format(", {}", ModulesText(symbol.result));
+  return fmt::format("{}, {}", headline, ConformanceName(request));
 }
 
 std::string Facts(const Symbol& symbol, const Speeds& speeds) {

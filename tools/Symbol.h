@@ -28,7 +28,7 @@ struct Failure {
 // Why there is no symbol, or none with these options; nothing where there is one.
 std::optional<Failure> FailureOf(const Symbol& symbol);
 
-// code39 "A1": 60 strokes, by the book
+// code39 "A1": 60 strokes, by the book; of a Data Matrix its modules as well
 std::string Headline(const Symbol& symbol);
 
 // The statistics, one a line.

@@ -43,11 +43,6 @@ constexpr Symbology kSymbologies[] = {
     {BARHATCH_CODE_39_FULL, "code39full"},
 };
 
-// The numbers are those of SetBarcodeType, which has none for the others.
-std::string NumberOf(const Symbology& row) {
-  return row.symbology >= BARHATCH_DATA_MATRIX ? "" : std::to_string(row.symbology);
-}
-
 std::string Lowered(std::string text) {
   for (char& c : text) {
     if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
@@ -64,7 +59,7 @@ std::string AcceptedBy(const Symbology& row, std::int32_t conformance) {
 // places of a format.
 std::string Formatted(const char* format, const Symbology& row) {
   const Result answer = AnswerOf(row.symbology, BARHATCH_PUBLISHED);
-  return fmt::format(fmt::runtime(format), NumberOf(row), row.name, answer.name(),
+  return fmt::format(fmt::runtime(format), row.symbology, row.name, answer.name(),
                      AcceptedBy(row, BARHATCH_PUBLISHED), AcceptedBy(row, BARHATCH_DEVICE),
                      ChecksOf(row.symbology));
 }
@@ -80,7 +75,7 @@ std::string FormattedRows(const char* format) {
 std::optional<std::int32_t> SymbologyFrom(const std::string& text) {
   if (text.empty()) return std::nullopt;
   for (const Symbology& row : kSymbologies) {
-    if (Lowered(text) == row.name || text == NumberOf(row)) return row.symbology;
+    if (Lowered(text) == row.name || text == std::to_string(row.symbology)) return row.symbology;
   }
   return std::nullopt;
 }

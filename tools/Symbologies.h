@@ -10,7 +10,7 @@
 
 namespace preview {
 
-// Given by name ("code39", in any case) or, where the device has one, by number ("1"); nothing for
+// Given by name ("code39", in any case) or by number ("1"); nothing for
 // anything else.
 std::optional<std::int32_t> SymbologyFrom(const std::string& text);
 

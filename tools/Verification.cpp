@@ -13,6 +13,7 @@ namespace {
 
 constexpr char kFnc1AsRead = '\x1D';
 constexpr std::size_t kMostShown = 4000;
+constexpr std::int32_t kUtf8Eci = 26;
 
 std::string Utf8Of(std::string_view latin1) {
   std::string utf8;
@@ -63,8 +64,12 @@ Verdict JudgeBlank(const Request& request, const Result& result) {
 
 }  // namespace
 
-std::string TextOf(const std::optional<std::string_view>& latin1) {
-  return latin1 ? Quoted(Utf8Of(*latin1), kMostShown) : "nothing";
+std::string ReadingText(const Request& request, const Result& result) {
+  if (!result.Reading()) return "nothing";
+  const bool isUtf8 = request.job.eci == kUtf8Eci ||
+                      (!request.device && result.warnings().Has(barhatch::Warning::kEci));
+  const std::string bytes(*result.Reading());
+  return Quoted(isUtf8 ? bytes : Utf8Of(bytes), kMostShown);
 }
 
 std::string DeviationIds(const Result& result) {
@@ -82,7 +87,7 @@ Verdict Judge(const Request& request, const Result& result, const std::optional<
                                         Quoted(reading->text, kMostShown));
   if (!result.Reading() || !IsAsPromised(request, *result.Reading(), *reading)) {
     return {false, false,
-            fmt::format("{}, but the library says {}", found, TextOf(result.Reading()))};
+            fmt::format("{}, but the library says {}", found, ReadingText(request, result))};
   }
   if (!result.warnings().Has(barhatch::Warning::kUnreadable)) return {true, false, found};
   return {false, false,

@@ -12,9 +12,9 @@
 
 namespace preview {
 
-// A reading or a text for people, in quotes and its bytes as Latin-1; "nothing" where there is
-// none.
-std::string TextOf(const std::optional<std::string_view>& latin1);
+// What the library promises, in quotes; its bytes are Latin-1, or UTF-8 where the symbol says so.
+// "nothing" where a reader reads nothing.
+std::string ReadingText(const Request& request, const Result& result);
 
 // "D-39-2, D-39-4": the deviations that the symbol has met; empty where it has met none.
 std::string DeviationIds(const Result& result);

@@ -133,9 +133,9 @@ const SymbolSize* SmallestOf(Shape shape, int codewords) {
 }
 
 const SymbolSize& LargestOf(Shape shape) {
-  const SymbolSize* largest = nullptr;
+  const SymbolSize* largest = kSquareSizes;  // the smallest of all
   ForEachSize(TablesOf(shape), [&](const SymbolSize& size) {
-    if (largest == nullptr || size.dataCodewords > largest->dataCodewords) largest = &size;
+    if (size.dataCodewords > largest->dataCodewords) largest = &size;
   });
   return *largest;
 }

@@ -38,16 +38,17 @@ static_assert(ProductOfFactors(1, 7) == 0xFE5CF08690441700, "254 92 240 134 144 
 
 constexpr int kMostRoots = 68;
 
-// Of every eight roots from 2^1 on, and of the first ones of them.
+// Of every eight roots from 2^1 on, and of the first ones of them; for none a product that every
+// polynomial has.
 struct Products {
-  std::uint64_t of[(kMostRoots + 7) / 8][8];
+  std::uint64_t of[(kMostRoots + 7) / 8 + 1][9];
 };
 
 constexpr Products MakeProducts() {
   Products products{};
   int first = 1;
   for (auto& row : products.of) {
-    for (int count = 1; count <= 8; ++count) row[count - 1] = ProductOfFactors(first, count);
+    for (int count = 1; count <= 8; ++count) row[count] = ProductOfFactors(first, count);
     first += 8;
   }
   return products;
@@ -63,24 +64,29 @@ void Tabulate(std::uint64_t lowest, std::uint64_t (&multiples)[16]) {
 
 }  // namespace
 
-RootCheck::RootCheck(int eight, int count) {
-  const std::uint64_t product = kProducts.of[eight][count - 1];
-  Tabulate(product, low_);
-  Tabulate(Product(product, 16), high_);
+RootCheck::EightRoots::EightRoots(int eight, int count) {
+  const std::uint64_t product = kProducts.of[eight][count];
+  Tabulate(product, low);
+  Tabulate(Product(product, 16), high);
 }
 
-std::uint64_t RootCheck::Divide(std::uint64_t remainder, const std::uint8_t* codewords, int count,
-                                int stride) const {
+RootCheck::RootCheck(int sixteen, int count)
+    : first_(2 * sixteen, count < 8 ? count : 8),
+      second_(2 * sixteen + 1, count < 8 ? 0 : count - 8) {}
+
+RootCheck::Remainders RootCheck::Divide(Remainders left, const std::uint8_t* codewords, int count,
+                                        int stride) const {
   for (; count > 0; --count, codewords += stride) {
-    const std::uint64_t leading = remainder >> 56 ^ *codewords;
-    remainder = remainder << 8 ^ low_[leading & 0xF] ^ high_[leading >> 4];
+    left.first = first_.Next(left.first, *codewords);
+    left.second = second_.Next(left.second, *codewords);
   }
-  return remainder;
+  return left;
 }
 
 bool RootCheck::Divides(const InterleavedBlock& block) const {
-  const std::uint64_t ofData = Divide(0, block.data, block.dataCodewords, block.stride);
-  return Divide(ofData, block.errors, block.errorCodewords, block.stride) == 0;
+  const Remainders ofData = Divide({0, 0}, block.data, block.dataCodewords, block.stride);
+  const Remainders left = Divide(ofData, block.errors, block.errorCodewords, block.stride);
+  return left.first == 0 && left.second == 0;
 }
 
 }  // namespace barhatch

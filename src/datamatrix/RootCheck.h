@@ -2,8 +2,8 @@
 // from the highest power down, is 0 at each of the roots 2^1 to 2^n in GF(256) with the polynomial
 // 0x12D. These values are the syndromes of the block.
 //
-// Eight roots are tested at once: they are roots where the product of their eight factors divides
-// the polynomial. Products come by shifting and adding, without logarithms.
+// Sixteen roots are tested at once, in two eights: eight are roots where the product of their
+// factors divides the polynomial. Products come by shifting and adding, without logarithms.
 #ifndef BARHATCH_DATAMATRIX_ROOTCHECK_H
 #define BARHATCH_DATAMATRIX_ROOTCHECK_H
 
@@ -22,21 +22,38 @@ struct InterleavedBlock {
 
 class RootCheck {
  public:
-  // The first 1 to 8 of eight roots: 2^1 to 2^8 are the eight 0, 2^65 to 2^72 the eight 8, the
-  // last.
-  RootCheck(int eight, int count);
+  // The first 1 to 16 of sixteen roots: 2^1 to 2^16 are the sixteen 0, 2^65 to 2^80 the last, 4.
+  RootCheck(int sixteen, int count);
 
   // True where all of them are roots of the block.
   bool Divides(const InterleavedBlock& block) const;
 
  private:
-  std::uint64_t Divide(std::uint64_t remainder, const std::uint8_t* codewords, int count,
-                       int stride) const;
+  // The product of up to eight factors without its highest power, times 0 to 15 and times 0, 16,
+  // ... 240. The coefficient of the next power is the highest byte. Of no factors all are 0.
+  struct EightRoots {
+    EightRoots(int eight, int count);
 
-  // The product without its highest power, times 0 to 15 and times 0, 16, ... 240. The coefficient
-  // of the next power is the highest byte.
-  std::uint64_t low_[16];
-  std::uint64_t high_[16];
+    // The remainder with the next codeword behind it.
+    std::uint64_t Next(std::uint64_t remainder, std::uint8_t codeword) const {
+      const std::uint64_t leading = remainder >> 56 ^ codeword;
+      return remainder << 8 ^ low[leading & 0xF] ^ high[leading >> 4];
+    }
+
+    std::uint64_t low[16];
+    std::uint64_t high[16];
+  };
+
+  struct Remainders {
+    std::uint64_t first;
+    std::uint64_t second;
+  };
+
+  // Two remainders that do not wait for each other.
+  Remainders Divide(Remainders left, const std::uint8_t* codewords, int count, int stride) const;
+
+  EightRoots first_;
+  EightRoots second_;
 };
 
 }  // namespace barhatch

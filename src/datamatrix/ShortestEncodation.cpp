@@ -43,13 +43,13 @@ ShortestEncodation::ShortestEncodation(const TokenText& text, std::size_t lead, 
     : text_(text),
       lead_(lead),
       places_(places),
-      pass_(text, lead, CostOfHeader(text, lead, header), places),
-      ends_(text, lead, pass_, isLooseEnd) {}
+      pass_(text_, lead, CostOfHeader(text_, lead, header), places),
+      ends_(text_, lead, pass_, isLooseEnd) {}
 
 void ShortestEncodation::Keep(Scheme scheme, std::size_t begin, std::size_t end) {
   if (begin == end) return;
-  places_[begin].note =
-      static_cast<std::uint16_t>(static_cast<int>(scheme) << kLengthBits | (end - begin));
+  const auto first = static_cast<std::size_t>(scheme) << kLengthBits;
+  places_[begin].note = static_cast<std::uint16_t>(first | (end - begin));
 }
 
 // One edge back, within a scheme or out of it.

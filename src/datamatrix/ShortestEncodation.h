@@ -36,7 +36,7 @@ class ShortestEncodation {
   // places  room for one more, which the object takes to itself
   // lead    tokens in front that are written in ASCII whatever that costs
   // header  codewords in front of the text
-  // The text outlives the object. Takes time in proportion to the text.
+  // The tokens outlive the object. Takes time in proportion to the text.
   ShortestEncodation(const TokenText& text, std::size_t lead, int header, bool isLooseEnd,
                      Place* places);
 
@@ -52,7 +52,7 @@ class ShortestEncodation {
   State StepBack(State state, std::size_t& place) const;
   void Keep(Scheme scheme, std::size_t begin, std::size_t end);
 
-  const TokenText& text_;
+  const TokenText text_;
   const std::size_t lead_;
   Place* const places_;
   const ShortestPass pass_;

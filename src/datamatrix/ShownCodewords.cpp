@@ -1,34 +1,30 @@
 #include "datamatrix/ShownCodewords.h"
 
-#include "job/ModuleString.h"
-
 namespace barhatch {
 
 namespace {
 
-struct PlaceClass {
-  int bit;      // 0 the most significant
-  int rows;     // from the module down to the last one of its shape
-  int columns;  // and to the right
-};
-
-constexpr PlaceClass kClasses[] = {
-    {7, 0, 0}, {2, 1, 2}, {3, 1, 1}, {4, 1, 0}, {0, 2, 2}, {1, 2, 1}, {5, 0, 2}, {6, 0, 1},
-};
-
 constexpr int ClassOf(int row, int column) { return (column + 5 * row + 4) % 8; }
 
-// Every class is that of the module which its own way leads to the last one from.
-constexpr bool ClassesLeadToLastModules() {
-  int bits = 0;
-  for (const PlaceClass& way : kClasses) {
-    const int index = static_cast<int>(&way - kClasses);
-    if (ClassOf(16 - way.rows, 20 - way.columns) != index) return false;
-    bits |= 1 << way.bit;
-  }
-  return bits == 0xFF;
+// Eight modules in a row from the class 1 on are of three codewords.
+struct Part {
+  int rows;     // from the modules down to the last one of their shape
+  int columns;  // from the first of the eight to it
+};
+constexpr Part kBits345 = {1, 2};
+constexpr Part kBits12 = {2, 5};
+constexpr Part kBits678 = {0, 7};
+constexpr bool LeadsToLastModule(const Part& part) {
+  return ClassOf(16 + part.rows, 13 + part.columns) == 0;
 }
-static_assert(ClassOf(16, 20) == 0 && ClassesLeadToLastModules(), "eight modules of one shape");
+static_assert(ClassOf(16, 13) == 1 && LeadsToLastModule(kBits345) && LeadsToLastModule(kBits12) &&
+                  LeadsToLastModule(kBits678),
+              "last modules are of the class 0");
+
+// The bits of a codeword that the eight show, 1 dark, the first the highest.
+constexpr int Bits345(int dark) { return dark >> 2 & 0x38; }
+constexpr int Bits12(int dark) { return dark << 3 & 0xC0; }
+constexpr int Bits678(int dark) { return dark & 0x07; }
 
 constexpr bool IsUpwards(int diagonal) { return diagonal % 2 != 0; }
 
@@ -169,46 +165,53 @@ void ShownCodewords::TakeTornShape(int row, char* letters, std::uint8_t* codewor
   }
 }
 
-// Eight modules from the class 1 on are of three codewords: three, two and three bits.
-bool ShownCodewords::AddEights(int row, int first, int end, const char* letters,
+void ShownCodewords::Add(int lastRow, int lastColumn, int bits, std::uint8_t* codewords) const {
+  if (bits != 0) codewords[CodewordAt(lastRow, lastColumn)] |= static_cast<std::uint8_t>(bits);
+}
+
+// Eights whose last modules may lie outside.
+bool ShownCodewords::AddAtSide(int row, int first, int end, const char* letters,
+                               std::uint8_t* codewords) const {
+  for (int column = first; column < end; column += 8) {
+    const std::uint64_t eight = EightLetters(letters + column);
+    if (!AreModules(eight)) return false;
+    const int dark = DarkBits(eight);
+    Add(row + kBits345.rows, column + kBits345.columns, Bits345(dark), codewords);
+    Add(row + kBits12.rows, column + kBits12.columns, Bits12(dark), codewords);
+    Add(row + kBits678.rows, column + kBits678.columns, Bits678(dark), codewords);
+  }
+  return true;
+}
+
+// Eights whose last modules lie inside, in two diagonals.
+bool ShownCodewords::AddInside(int row, int first, int end, const char* letters,
                                std::uint8_t* codewords) const {
   const int diagonal = (row + first + 3) / 4;
-  std::uint8_t* const codewords0 = codewords + ShiftOf(row + 1, diagonal);
-  std::uint8_t* const codewords1 = codewords + ShiftOf(row + 2, diagonal + 1);
-  std::uint8_t* const codewords2 = codewords + ShiftOf(row, diagonal + 1);
+  std::uint8_t* const of345 = codewords + ShiftOf(row + kBits345.rows, diagonal);
+  std::uint8_t* const of12 = codewords + ShiftOf(row + kBits12.rows, diagonal + 1);
+  std::uint8_t* const of678 = codewords + ShiftOf(row + kBits678.rows, diagonal + 1);
   const std::int16_t* inRow0 = inRow0_ + diagonal;
   for (int column = first; column < end; column += 8, inRow0 += 2) {
     const std::uint64_t eight = EightLetters(letters + column);
     if (!AreModules(eight)) return false;
     const int dark = DarkBits(eight);
-    codewords0[inRow0[0]] |= static_cast<std::uint8_t>(dark >> 2 & 0x38);
-    codewords1[inRow0[1]] |= static_cast<std::uint8_t>(dark << 3 & 0xC0);
-    codewords2[inRow0[1]] |= static_cast<std::uint8_t>(dark & 0x07);
+    of345[inRow0[0]] |= static_cast<std::uint8_t>(Bits345(dark));
+    of12[inRow0[1]] |= static_cast<std::uint8_t>(Bits12(dark));
+    of678[inRow0[1]] |= static_cast<std::uint8_t>(Bits678(dark));
   }
   return true;
 }
 
-bool ShownCodewords::AddOneByOne(int row, int first, int end, const char* letters,
-                                 std::uint8_t* codewords) const {
-  for (int column = first; column < end; ++column) {
-    if (letters[column] == kNarrowSpace) continue;
-    if (letters[column] != kNarrowBar) return false;
-    const PlaceClass& way = kClasses[ClassOf(row, column)];
-    codewords[CodewordAt(row + way.rows, column + way.columns)] |=
-        static_cast<std::uint8_t>(0x80 >> way.bit);
-  }
-  return true;
-}
-
-bool ShownCodewords::AddRow(int row, char* letters, std::uint8_t* codewords) const {
+bool ShownCodewords::AddRow(int row, ModuleRow& modules, std::uint8_t* codewords) const {
+  char* const letters = modules.Letters();
   if (!TakeFixedCorner(row, letters)) return false;
   TakeTornShape(row, letters, codewords);
-  // The last modules of the two lowest rows may lie below, as those of the last columns beside.
+  // Of the two lowest rows last modules may lie below, of the last columns beside.
   const int first = (8 - ClassOf(row, 7)) % 8;
   const int end = row < rows_ - 2 ? columns_ - (columns_ - first) % 8 : first;
-  return AddOneByOne(row, 0, first, letters, codewords) &&
-         AddEights(row, first, end, letters, codewords) &&
-         AddOneByOne(row, end, columns_, letters, codewords);
+  return AddAtSide(row, first - 8, first, letters, codewords) &&
+         AddInside(row, first, end, letters, codewords) &&
+         AddAtSide(row, end, columns_, letters, codewords);
 }
 
 }  // namespace barhatch

@@ -18,10 +18,23 @@
 #define BARHATCH_DATAMATRIX_SHOWNCODEWORDS_H
 
 #include <cstdint>
+#include <cstring>
+
+#include "job/ModuleString.h"
 
 namespace barhatch {
 
 constexpr int kMostMappingModules = 132;  // of the longest side
+
+// The letters (ModuleString.h) of one row of a mapping matrix between light ones on both sides.
+struct ModuleRow {
+  static constexpr int kMargin = 8;
+
+  ModuleRow() { std::memset(all, kNarrowSpace, sizeof all); }
+  char* Letters() { return all + kMargin; }
+
+  char all[kMargin + kMostMappingModules + kMargin];
+};
 
 struct TornShape;
 
@@ -31,9 +44,9 @@ class ShownCodewords {
   ShownCodewords(int rows, int columns);
 
   // Adds what a row shows to the codewords, rows x columns / 8 of them, which are 0 before the
-  // first row. letters: those of the row (ModuleString.h), which are not kept. False for letters
-  // that are no modules, and where modules that no codeword has are not as they have to be.
-  bool AddRow(int row, char* letters, std::uint8_t* codewords) const;
+  // first row. The letters are not kept. False for letters that are no modules, and where modules
+  // that no codeword has are not as they have to be.
+  bool AddRow(int row, ModuleRow& modules, std::uint8_t* codewords) const;
 
  private:
   // Diagonals 0 to 65 have last modules in them.
@@ -43,8 +56,9 @@ class ShownCodewords {
   int CodewordAt(int lastRow, int lastColumn) const;
   bool TakeFixedCorner(int row, char* letters) const;
   void TakeTornShape(int row, char* letters, std::uint8_t* codewords) const;
-  bool AddEights(int row, int first, int end, const char* letters, std::uint8_t* codewords) const;
-  bool AddOneByOne(int row, int first, int end, const char* letters, std::uint8_t* codewords) const;
+  bool AddInside(int row, int first, int end, const char* letters, std::uint8_t* codewords) const;
+  bool AddAtSide(int row, int first, int end, const char* letters, std::uint8_t* codewords) const;
+  void Add(int lastRow, int lastColumn, int bits, std::uint8_t* codewords) const;
 
   const int rows_;
   const int columns_;

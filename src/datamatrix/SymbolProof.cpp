@@ -112,8 +112,8 @@ class GridReader {
   }
 
   bool ReadDataLine(const char* letters, char rightSide) {
-    char row[kMostMappingModules];
-    char* next = row;
+    ModuleRow row;
+    char* next = row.Letters();
     const int modules = regionColumns_ - 2;
     for (int region = 0; region < columns_; region += regionColumns_, next += modules) {
       const char* const side = letters + region;
@@ -146,9 +146,9 @@ InterleavedBlock BlockAt(int block, const ReadSize& size, int dataCodewords, Blo
 
 bool HasNoErrors(const ReadSize& size, int dataCodewords, BlockOrder order,
                  const std::uint8_t* codewords) {
-  for (int tested = 0; tested < size.errorCodewords; tested += 8) {
+  for (int tested = 0; tested < size.errorCodewords; tested += 16) {
     const int left = size.errorCodewords - tested;
-    const RootCheck roots(tested / 8, left < 8 ? left : 8);
+    const RootCheck roots(tested / 16, left < 16 ? left : 16);
     for (int block = 0; block < size.blocks; ++block) {
       if (!roots.Divides(BlockAt(block, size, dataCodewords, order, codewords))) return false;
     }

@@ -1,11 +1,13 @@
 // The Data Matrix half of a mark by the book: text to tokens, tokens to a grid of modules, its
 // codewords read back.
+#include <cstring>
+
 #include "datamatrix/PublishedMatrix.h"
+#include "datamatrix/TextProof.h"
 #include "mark/JobRecord.h"
 #include "mark/MatrixMark.h"
 #include "mark/MatrixTokens.h"
 #include "mark/Proof.h"
-#include "mark/Reading.h"
 #include "mark/TextTokens.h"
 
 namespace barhatch {
@@ -50,8 +52,7 @@ Refusal MakeText(const BarhatchJob& job, const TokenText& tokens, Conformance& h
   if (refusal.IsRefused()) return refusal;
   refusal = KeepMatrix(job, matrix, how, symbol, result);
   if (refusal.IsRefused()) return refusal;
-  const Characters reading = {symbol.reading, symbol.readingLength};
-  const bool isAsGiven = symbol.isRead && IsReadingOfTokens(tokens, text.head, reading);
+  const bool isAsGiven = SaysText(symbol.values, matrix.size.dataCodewords, text);
   return JudgeReading(job, isAsGiven, how.Met(), symbol.warnings);
 }
 
@@ -66,8 +67,10 @@ Refusal MakeCodewords(const BarhatchJob& job, const TokenText& tokens, Conforman
                                         DrawnQuietModulesOf(job), how, symbol.memory, matrix);
   if (refusal.IsRefused()) return refusal;
   const Refusal kept = KeepMatrix(job, matrix, how, symbol, result);
+  if (kept.IsRefused()) return kept;
   if (!symbol.isRead) symbol.warnings |= BARHATCH_W_UNREADABLE;
-  return kept;
+  const bool isAsGiven = std::memcmp(symbol.values, codewords.get(), tokens.length) == 0;
+  return {isAsGiven || !WantsProof(job) ? Reason::kNone : Reason::kProof};
 }
 
 bool IsInOrderOfStandard(const BarhatchJob& job, const MarkedSymbol& symbol) {

@@ -86,21 +86,4 @@ bool IsReadingOfMatrix(const TextUnits& text, Header header, const Characters& r
   return rest.IsEmpty();
 }
 
-bool IsReadingOfTokens(const TokenText& text, MatrixHead head, const Characters& reading) {
-  const bool hasMacro = head == MatrixHead::kMacro05 || head == MatrixHead::kMacro06;
-  const std::size_t lead = LeadOf(text, head);
-  Rest rest(reading);
-  if (hasMacro &&
-      !TakeEnvelopeHead(rest, head == MatrixHead::kMacro05 ? Header::kMacro05 : Header::kMacro06)) {
-    return false;
-  }
-  for (std::size_t i = 0; i < text.length; ++i) {
-    const Token token = text.tokens[i];
-    if (IsEci(token) || (token == kFnc1Token && i < lead)) continue;
-    if (!rest.Take(token == kFnc1Token ? kGs : static_cast<char>(token))) return false;
-  }
-  if (hasMacro && !(rest.Take(kEnvelopeEnd[0]) && rest.Take(kEnvelopeEnd[1]))) return false;
-  return rest.IsEmpty();
-}
-
 }  // namespace barhatch

@@ -4,9 +4,7 @@
 
 #include <cstddef>
 
-#include "datamatrix/PublishedMatrix.h"
 #include "job/Job.h"
-#include "job/Token.h"
 #include "symbologies/Preparation.h"
 
 namespace barhatch {
@@ -19,10 +17,6 @@ bool IsReadingOfLinear(const ReadingForm& form, const Characters& text, const Ch
 // Readers leave out ECI designators, write out the macro headers and report FNC1 in second position
 // as GS or not at all.
 bool IsReadingOfMatrix(const TextUnits& text, Header header, const Characters& reading);
-
-// The same for a Data Matrix by the book: FNC1 in first or second position is no byte, behind that
-// it is GS.
-bool IsReadingOfTokens(const TokenText& text, MatrixHead head, const Characters& reading);
 
 }  // namespace barhatch
 

@@ -3,13 +3,13 @@
 #include "datamatrix/DataMatrix.h"
 #include "datamatrix/PublishedSizes.h"
 #include "job/Token.h"
+#include "mark/EanUpcSentences.h"
 #include "mark/ElementSentences.h"
 #include "mark/InputText.h"
 #include "mark/JobRecord.h"
 #include "mark/Names.h"
 #include "mark/TextTokens.h"
 #include "symbologies/Code128Shortest.h"
-#include "symbologies/EanUpcElements.h"
 #include "symbologies/SymbologyTable.h"
 
 namespace barhatch {
@@ -145,13 +145,6 @@ void SayLength(const BarhatchJob& job, const SymbologyName& name, std::int32_t g
   if (place > 0) message << " in front of + at " << place;
 }
 
-void SayNotStandard(const BarhatchJob& job, Message& message) {
-  message << (job.symbology == BARHATCH_UPC_E || job.symbology == BARHATCH_UPC_E_ADDON_2 ||
-                      job.symbology == BARHATCH_UPC_E_ADDON_5
-                  ? "UPC-E of number system 1 is outside ISO/IEC 15420; set PERMIT"
-                  : "an add-on beside EAN-8 is outside ISO/IEC 15420; set PERMIT");
-}
-
 Message& SayCharacterCode(std::int32_t code, Message& message) {
   if (code <= ' ' || code > '~') return message.Code(code);
   const char text[] = {static_cast<char>(code), '\0'};
@@ -164,24 +157,6 @@ void SayCheck(const BarhatchJob& job, std::int32_t right, std::int32_t place, Me
   message << (isDigit ? "check digit " : "check character ");
   SayCharacterCode(static_cast<std::int32_t>(given), message) << " at " << place << " should be ";
   SayCharacterCode(right, message);
-}
-
-void SayAddonDigits(const BarhatchJob& job, std::int32_t digits, std::int32_t place,
-                    Message& message) {
-  const int asked = EanUpcLayoutOf(RowOf(job.symbology)->drawing.variant).addonDigits;
-  message << digits << (digits == 1 ? " digit" : " digits") << " behind + at " << place
-          << ": the add-on has ";
-  if (asked == 0) {
-    message << "2 or 5";
-  } else {
-    message << asked;
-  }
-}
-
-void SayUpcEForm(std::int32_t right, std::int32_t place, Message& message) {
-  message << "the six digits at " << place << " are no UPC-A number without its zeros: ";
-  for (std::int32_t unit = 100000; unit > 0; unit /= 10) message << right / unit % 10;
-  message << " are";
 }
 
 bool WouldGrow(const BarhatchJob& job, std::int32_t codewords) {
@@ -293,6 +268,10 @@ void SayCheckRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_
   }
 }
 
+bool IsOfElements(Reason reason) {
+  return reason >= Reason::kUnknownAi && reason <= Reason::kGs1Syntax;
+}
+
 void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
                     Message& message) {
   const SymbologyName& name = *NameOf(job.symbology);
@@ -319,9 +298,6 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
       message << "character " << place << " (";
       message.Code(refusal.figure) << ") starts or stops " << name.name << ": not inside";
       break;
-    case Reason::kNumberSystem:
-      message << "number system " << refusal.figure - '0' << " at " << place << " is none: 0 and 1";
-      break;
     case Reason::kCheck:
     case Reason::kNoCheck:
     case Reason::kOnlyCheck:
@@ -334,26 +310,10 @@ void SayTextRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t
     case Reason::kNoStop:
       message << "stop character missing at " << place;
       break;
-    case Reason::kSecondSign:
-      message << "a second + at " << place << ": one stands in front of the add-on";
-      break;
-    case Reason::kAddonDigits:
-      SayAddonDigits(job, refusal.figure, place, message);
-      break;
-    case Reason::kUpcEForm:
-      SayUpcEForm(refusal.figure, place, message);
-      break;
-    case Reason::kNoUpcE:
-      message << "the UPC-A number at " << place << " has no zeros that UPC-E could leave out";
-      break;
     default:
-      SayNotStandard(job, message);
+      SayEanUpcRefusal(job, refusal, place, message);
       break;
   }
-}
-
-bool IsOfElements(Reason reason) {
-  return reason >= Reason::kUnknownAi && reason <= Reason::kGs1Syntax;
 }
 
 }  // namespace
@@ -362,10 +322,7 @@ std::int32_t StatusOf(Reason reason) { return kStatuses[static_cast<int>(reason)
 
 void SayRefusal(const BarhatchJob& job, const Refusal& refusal, std::int32_t place,
                 Message message) {
-  if (IsOfElements(refusal.reason)) {
-    SayElementRefusal(refusal, place, message);
-    return;
-  }
+  if (IsOfElements(refusal.reason)) return SayElementRefusal(refusal, place, message);
   switch (refusal.reason) {
     case Reason::kTooManyValues:
       message << refusal.figure << " symbol characters, at most " << kMostShortestValues;

@@ -118,6 +118,9 @@ TEST(Wrapper, EveryChoiceReachesTheRecord) {
   job.invert = true;
   job.dotsPerModule = 2;
   job.order = barhatch::Order::kSerpentine;
+  job.part = 1;
+  job.parts = 3;
+  job.partId = 4711;
   const BarhatchJob made = barhatch::RecordOf(job);
   BarhatchJob record = {};
   record.size = sizeof record;
@@ -140,6 +143,9 @@ TEST(Wrapper, EveryChoiceReachesTheRecord) {
   record.invert = 1;
   record.dots_per_module = 2;
   record.order = BARHATCH_SERPENTINE;
+  record.part = 1;
+  record.parts = 3;
+  record.part_id = 4711;
   EXPECT_TRUE(SameBytes(made, record));
   EXPECT_EQ(std::memcmp(made.text, u"AB", 6), 0);
 }
@@ -163,7 +169,7 @@ TEST(Wrapper, EveryLengthReachesTheRecord) {
   }
 }
 
-TEST(Wrapper, TextsAreUtf8OrBytesOrUnits) {
+TEST(Wrapper, TextsAreOfEveryInput) {
   const auto recordOf = [](const Text& text) {
     Job job;
     job.text = text;
@@ -175,6 +181,9 @@ TEST(Wrapper, TextsAreUtf8OrBytesOrUnits) {
   EXPECT_EQ(recordOf("a\0c"s), Pair(BARHATCH_UTF8, 3));
   EXPECT_EQ(recordOf(std::string_view("abcd").substr(1, 2)), Pair(BARHATCH_UTF8, 2));
   EXPECT_EQ(recordOf(Text::Bytes("\xFF\xFE")), Pair(BARHATCH_BYTES, 2));
+  EXPECT_EQ(recordOf(Text::Gs1("(10)ABC")), Pair(BARHATCH_GS1, 7));
+  EXPECT_EQ(recordOf(Text::Escaped("^FNC1A")), Pair(BARHATCH_ESCAPED, 6));
+  EXPECT_EQ(recordOf(Text::Codewords("\x8E\xA4")), Pair(BARHATCH_CODEWORDS, 2));
   EXPECT_EQ(recordOf(u"abc"), Pair(BARHATCH_UNITS, 3));
   EXPECT_EQ(recordOf(u"a\0"s), Pair(BARHATCH_UNITS, 2));
   EXPECT_EQ(recordOf(std::u16string_view(u"abcd").substr(1)), Pair(BARHATCH_UNITS, 3));

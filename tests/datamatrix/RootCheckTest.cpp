@@ -24,7 +24,7 @@ std::vector<int> RandomBlock(std::mt19937& random, int dataCodewords, int degree
   return block;
 }
 
-// Eight by eight, as many as there are.
+// Sixteen by sixteen, as many as there are.
 bool HasAllRoots(const std::vector<int>& block, int degree, int stride = 1) {
   std::vector<std::uint8_t> stream(block.size() * static_cast<std::size_t>(stride), 0xA5);
   for (std::size_t i = 0; i < block.size(); ++i) {
@@ -33,8 +33,8 @@ bool HasAllRoots(const std::vector<int>& block, int degree, int stride = 1) {
   const int dataCodewords = static_cast<int>(block.size()) - degree;
   const InterleavedBlock interleaved = {stream.data(), dataCodewords,
                                         stream.data() + dataCodewords * stride, degree, stride};
-  for (int tested = 0; tested < degree; tested += 8) {
-    if (!RootCheck(tested / 8, std::min(8, degree - tested)).Divides(interleaved)) return false;
+  for (int tested = 0; tested < degree; tested += 16) {
+    if (!RootCheck(tested / 16, std::min(16, degree - tested)).Divides(interleaved)) return false;
   }
   return true;
 }

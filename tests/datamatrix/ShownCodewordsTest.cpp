@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -33,10 +34,17 @@ struct Read {
   Codewords codewords;
 };
 
-Read ReadRow(const ReferenceSize& size, int row, std::string letters) {
+ModuleRow RowOf(const std::string& letters) {
+  ModuleRow modules;
+  std::copy(letters.begin(), letters.end(), modules.Letters());
+  return modules;
+}
+
+Read ReadRow(const ReferenceSize& size, int row, const std::string& letters) {
   Read read = {false, NoCodewords(size)};
+  ModuleRow modules = RowOf(letters);
   const ShownCodewords shown(size.mappingRows, size.mappingColumns);
-  read.isRight = shown.AddRow(row, letters.data(), read.codewords.data());
+  read.isRight = shown.AddRow(row, modules, read.codewords.data());
   return read;
 }
 
@@ -72,11 +80,13 @@ TEST(ShownCodewords, RowsAddToWhatOthersHaveShown) {
     const ReferenceSize& size = plain.size;
     std::vector<int> stream;
     for (int i = 0; i < size.data + size.ecc; ++i) stream.push_back(37 * i % 251);
-    std::string mapping = ReferenceMapping(stream, size.mappingRows, size.mappingColumns);
+    const std::string mapping = ReferenceMapping(stream, size.mappingRows, size.mappingColumns);
     Codewords codewords = NoCodewords(size);
     const ShownCodewords shown(size.mappingRows, size.mappingColumns);
+    const auto columns = static_cast<std::size_t>(size.mappingColumns);
     for (int row = 0; row < size.mappingRows; ++row) {
-      EXPECT_TRUE(shown.AddRow(row, mapping.data() + row * size.mappingColumns, codewords.data()));
+      ModuleRow modules = RowOf(mapping.substr(static_cast<std::size_t>(row) * columns, columns));
+      EXPECT_TRUE(shown.AddRow(row, modules, codewords.data()));
     }
     EXPECT_EQ(std::vector<int>(codewords.begin(), codewords.end()), stream) << plain;
   }

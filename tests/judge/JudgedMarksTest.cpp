@@ -48,11 +48,13 @@ std::vector<JudgedMark> JudgedMarks() {
   return marks;
 }
 
-// One letter for each element of symbologies of two widths.
+// One letter for each element of symbologies of two widths; bars and spaces take turns.
 std::string LettersOfTwoWidths(const BarhatchResult& result) {
   std::string letters;
   for (std::int32_t i = 0; i < result.columns; ++i) {
-    letters += (result.modules[i] & BARHATCH_WIDE) != 0 ? 'w' : 'n';
+    const bool isDark = (result.modules[i] & BARHATCH_DARK) != 0;
+    const char width = (result.modules[i] & BARHATCH_WIDE) != 0 ? 'w' : 'n';
+    letters += isDark == (i % 2 == 0) ? width : '?';
   }
   return letters;
 }

@@ -36,16 +36,23 @@ constexpr struct {
   const char* name;
   std::int32_t BarhatchJob::*field;
 } kIntegers[] = {
-    {"symbology", &BarhatchJob::symbology}, {"conformance", &BarhatchJob::conformance},
-    {"input", &BarhatchJob::input},         {"envelope", &BarhatchJob::envelope},
-    {"check", &BarhatchJob::check},         {"eci", &BarhatchJob::eci},
+    {"symbology", &BarhatchJob::symbology},
+    {"conformance", &BarhatchJob::conformance},
+    {"input", &BarhatchJob::input},
+    {"envelope", &BarhatchJob::envelope},
+    {"check", &BarhatchJob::check},
+    {"eci", &BarhatchJob::eci},
     {"part", &BarhatchJob::part},
     {"parts", &BarhatchJob::parts},
     {"part_id", &BarhatchJob::part_id},
-    {"rows", &BarhatchJob::rows},           {"columns", &BarhatchJob::columns},
-    {"shape", &BarhatchJob::shape},         {"addon_gap", &BarhatchJob::addon_gap},
-    {"pattern", &BarhatchJob::pattern},     {"profile", &BarhatchJob::profile},
-    {"invert", &BarhatchJob::invert},       {"dots_per_module", &BarhatchJob::dots_per_module},
+    {"rows", &BarhatchJob::rows},
+    {"columns", &BarhatchJob::columns},
+    {"shape", &BarhatchJob::shape},
+    {"addon_gap", &BarhatchJob::addon_gap},
+    {"pattern", &BarhatchJob::pattern},
+    {"profile", &BarhatchJob::profile},
+    {"invert", &BarhatchJob::invert},
+    {"dots_per_module", &BarhatchJob::dots_per_module},
     {"order", &BarhatchJob::order},
 };
 

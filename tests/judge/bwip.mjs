@@ -21,9 +21,12 @@ export function lettersOfElements(elements, twoWidths) {
   return elements.map((width) => (twoWidths ? (width > 1 ? 'w' : 'n') : width.toString(36))).join('');
 }
 
+// Bars and spaces take turns; a module that is of the other colour is none.
+const letterOfTwoWidths = (module, index) => (module % 2 === index % 2 ? '?' : module >= 2 ? 'w' : 'n');
+
 // The same of the modules of a mark, as mark_jobs writes them.
 export function lettersOfModules(modules, twoWidths) {
-  if (twoWidths) return modules.replace(/./g, (module) => (module >= '2' ? 'w' : 'n'));
+  if (twoWidths) return [...modules].map((module, index) => letterOfTwoWidths(Number(module), index)).join('');
   return modules.replace(/0+|1+/g, (run) => run.length.toString(36));
 }
 
@@ -31,7 +34,7 @@ export const widthOf = (letters) => [...letters].reduce((sum, width) => sum + pa
 
 // Of Code 128, whose choice of sets is free: no longer than the judge's shortest symbol (from a set
 // that was asked for a symbol may be longer), and the judge draws the values as they are drawn.
-function judgeCode128({ job, answer }, theirs) {
+export function judgeCode128({ job, answer }, theirs) {
   const ours = lettersOfModules(answer.modules, false);
   if (theirs.refusal) return { ours, theirs: theirs.refusal };
   const values = [...answer.values].slice(0, -1).map((value) => `^${String(value).padStart(3, '0')}`);

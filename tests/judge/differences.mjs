@@ -10,7 +10,7 @@ const isUpcE = ({ job }) => [10, 19, 20].includes(job.symbology);
 const isRefusedAs = ({ answer }, status) => answer.status === status;
 const isEmpty = ({ text, theirs }) => text === '' && theirs === 'a symbol';
 const hex = (text) => Buffer.from(text, 'latin1').toString('hex');
-const lowBits = (text) => Buffer.from(text, 'latin1').map((byte) => byte & 127).toString('hex');
+const lowBits = (digits) => Buffer.from(digits, 'hex').map((byte) => byte & 127).toString('hex');
 
 function drawnOf39Full(text, { check }) {
   if (check === CHECK.MOD_43) return spellOut(text) + modulo43(spellOut(text));
@@ -31,6 +31,7 @@ const BAD_CHARACTER = 4;
 const BAD_LENGTH = 5;
 const BAD_CHECK = 6;
 const BAD_SYNTAX = 7;
+const TOO_LONG = 10;
 const NOT_STANDARD = 12;
 
 export const LINEAR_DIFFERENCES = [
@@ -92,7 +93,7 @@ export const LINEAR_DIFFERENCES = [
   { judge: 'zbar', what: 'UPC-E of number system 1', why: 'it does not know it',
     when: (one) => isUpcE(one) && upcEOf(one.text)[0] === '1' && one.theirs === 'nothing' },
   { judge: 'zbar', what: 'Code 128 of bytes above 127', why: 'it passes over FNC4: the byte 128 lower',
-    when: ({ job, text, theirs }) => isCode128(job.symbology) && theirs === lowBits(text) && theirs !== hex(text) },
+    when: ({ job, ours, theirs }) => isCode128(job.symbology) && theirs === lowBits(ours) && theirs !== ours },
   { judge: 'zbar', what: 'long texts', why: `it has no room for ${DATA_CHARACTERS} symbol characters, and loses some`,
     when: ({ job, text, theirs, answer }) => {
       if (isCode128(job.symbology)) return answer.values.length >= DATA_CHARACTERS;
@@ -111,4 +112,13 @@ export const MATRIX_DIFFERENCES = [
     when: ({ job, answer }) => isOf144(answer) && (job.flags & INDUSTRY_144) === 0 },
   { judge: 'zxing', what: 'spirals of 8 x 120 and 8 x 144', why: 'a spiral moves modules by half a gap, which the flattest symbols do not allow it',
     when: ({ job, answer, theirs }) => job.pattern === 5 && answer.rows === 8 && answer.columns >= 120 && theirs === 'nothing' },
+];
+
+const MOST_OF_GS1_128 = 48;
+
+export const GS1_DIFFERENCES = [
+  { judge: 'bwip-js', what: 'GS1-128 of more than 48 characters', why: 'the GS1 General Specifications allow 48: refused',
+    when: (one) => one.job.symbology === 5 && one.data.length > MOST_OF_GS1_128 && isRefusedAs(one, TOO_LONG) },
+  { judge: 'bwip-js, size', what: 'a smaller GS1 DataMatrix', why: 'as above',
+    when: ({ isSmaller }) => isSmaller },
 ];

@@ -1,19 +1,22 @@
 // Has marks judged: judge.mjs PROGRAM [--share NUMBER] [--only NAME] [--sample FILE]. PROGRAM is
 // mark_jobs; NAME is that of a suite or a symbology. FILE gets a sample of what the generator drew,
-// for JudgedMarksTest.cpp. Exit code 1: a difference that differences.mjs does not explain.
+// for JudgedMarksTest.cpp. With --control every mark has a wrong module and the picture of another
+// one, and the judges have to notice each. Exit code 1: a difference that differences.mjs does not explain.
 import { writeFileSync } from 'node:fs';
 import { availableParallelism } from 'node:os';
 import { parseArgs } from 'node:util';
 import { isMainThread, parentPort, Worker, workerData } from 'node:worker_threads';
 import { drawnBy } from './bwip.mjs';
+import { gs1 } from './gs1.mjs';
 import { linear } from './linear.mjs';
 import { mark } from './marks.mjs';
 import { matrix } from './matrix.mjs';
 import { prepare } from './readers.mjs';
 
-const FAMILIES = [linear, matrix];
+const FAMILIES = [linear, matrix, gs1];
 const DIFFERENCES = FAMILIES.flatMap(({ differences }, family) => differences.map((row) => ({ ...row, family })));
 const BATCH = 500;
+const EVERY_SPOILT = 9;
 const SAMPLED_OF_A_KIND = 15;
 const SAMPLED_LENGTH = 24;
 const SHOWN_OF_A_KIND = 3;
@@ -65,22 +68,50 @@ class Tally {
   }
 }
 
-async function judgeAll(cases, program) {
+// Of each mark the module in the middle in the other colour, and the picture of the mark before.
+function spoil(answers) {
+  const flip = (module) => String(Number(module) ^ 1);
+  let before = {};
+  return answers.map((answer) => {
+    if (answer.status !== 0) return answer;
+    const middle = answer.modules.length >> 1;
+    const modules = answer.modules.slice(0, middle) + flip(answer.modules[middle]) + answer.modules.slice(middle + 1);
+    const spoilt = { ...answer, modules, picture: answer.picture && before.picture, isSameText: before.reading?.equals(answer.reading) };
+    if (answer.picture !== undefined) before = answer;
+    return spoilt;
+  });
+}
+
+// Spoilt marks that a judge agrees with. Sizes are not spoilt, and one text may follow its like.
+function addUnnoticed(judge, one, difference, tally) {
+  const { answer } = one;
+  if (answer.status !== 0 || difference === undefined || judge.endsWith('size')) return;
+  if (judge.startsWith('z') && answer.isSameText) return;
+  if (difference !== null) tally.of(one.name, judge).agreed += 1;
+  else tally.differences.push({ judge, ...one, text: one.text.toString('latin1'), ours: 'spoilt', theirs: 'not noticed' });
+}
+
+async function judgeAll(cases, { program, control }) {
   await prepare();
   const tally = new Tally();
   for (let at = 0; at < cases.length; at += BATCH) {
     const batch = cases.slice(at, at + BATCH);
-    const answers = mark(program, batch);
+    const marked = mark(program, batch);
+    const answers = control ? spoil(marked) : marked;
     for (let i = 0; i < batch.length; ++i) {
       const one = { ...batch[i], answer: answers[i] };
-      await FAMILIES[one.family].judge(one, (judge, difference) => tally.add(judge, one, difference));
+      const add = (judge, difference) =>
+        (control ? addUnnoticed(judge, one, difference, tally) : tally.add(judge, one, difference));
+      await FAMILIES[one.family].judge(one, add);
     }
   }
   return tally;
 }
 
-function casesOf({ share, only }) {
-  const all = FAMILIES.flatMap(({ cases }, family) => cases(share).map((one) => ({ ...one, family })));
+function casesOf({ share, only, control }) {
+  const every = control ? EVERY_SPOILT : 1;
+  const all = FAMILIES.flatMap(({ cases }, family) => cases(share).map((one) => ({ ...one, family })))
+    .filter((_, index) => index % every === 0);
   return only === undefined ? all : all.filter((one) => one.suite === only || one.name.includes(only));
 }
 
@@ -155,9 +186,10 @@ function writeSample(file, cases, program) {
 
 async function main() {
   const { values, positionals } = parseArgs({
-    allowPositionals: true, options: { share: { type: 'string', default: '1' }, only: { type: 'string' }, sample: { type: 'string' } },
+    allowPositionals: true, options: { share: { type: 'string', default: '1' }, only: { type: 'string' }, sample: { type: 'string' },
+               control: { type: 'boolean', default: false } },
   });
-  const options = { program: positionals[0], share: Number(values.share), only: values.only };
+  const options = { program: positionals[0], share: Number(values.share), only: values.only, control: values.control };
   if (values.sample) {
     writeSample(values.sample, casesOf(options).filter((one) => FAMILIES[one.family] === linear), options.program);
     return;
@@ -167,13 +199,13 @@ async function main() {
   for (const part of await inWorkers(options)) tally.join(part);
   const cases = casesOf(options);
   print(tally, cases);
-  const isWhole = values.only === undefined && options.share >= 1;
+  const isWhole = !values.control && values.only === undefined && options.share >= 1;
   const unmet = isWhole ? DIFFERENCES.filter((_, index) => tally.met[index] === 0) : [];
   for (const row of unmet) console.log(`nothing met: ${row.judge}, ${row.what}`);
   printDifferences(tally.differences);
   const seconds = Math.round((Date.now() - began) / 1000);
   const failures = tally.differences.length + unmet.length;
-  console.log(`judge: ${failures === 0 ? 'agreed' : 'FAILED'}, ${cases.length} texts, ${tally.differences.length} differences not explained, ${unmet.length} reasons not met, ${seconds} s`);
+  console.log(`judge: ${failures === 0 ? (values.control ? 'every spoilt mark was noticed' : 'agreed') : 'FAILED'}, ${cases.length} texts, ${tally.differences.length} differences not explained, ${unmet.length} reasons not met, ${seconds} s`);
   process.exitCode = failures === 0 ? 0 : 1;
 }
 
@@ -182,6 +214,6 @@ if (isMainThread) {
 } else {
   const { index, workers } = workerData;
   const cases = casesOf(workerData).filter((_, at) => at % workers === index);
-  const { counts, met, differences } = await judgeAll(cases, workerData.program);
+  const { counts, met, differences } = await judgeAll(cases, workerData);
   parentPort.postMessage({ counts, met, differences });
 }

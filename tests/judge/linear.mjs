@@ -9,6 +9,7 @@ import { ADD_START_STOP, isCode128, PERMIT, ROW, SYMBOLOGIES } from './symbologi
 import { bytes, CAPITALS, DIGITS, SMALL, Texts } from './texts.mjs';
 
 const BYTES = 1;
+const ESCAPED = 3;
 const PATTERNS = [0, 1, 2, 3, 5];
 const RATIOS = [3, 2.5, 2];
 const PIXELS = 4;
@@ -102,6 +103,22 @@ const CHECKED = {
   21: (text) => text + checkDigit(text),
 };
 
+// Function characters and bytes of Code 128 by escapes. What FNC2 and FNC3 mean is not a reader's text.
+function* escapes(texts, count) {
+  for (let i = 0; i < count; ++i) {
+    const isRead = i % 2 === 0;
+    const signs = isRead ? ['^FNC1', '^^'] : ['^FNC1', '^FNC2', '^FNC3', '^^'];
+    let text = texts.runs([DIGITS, CAPITALS, SMALL], 3);
+    for (let rest = 1 + texts.below(3); rest > 0; --rest) {
+      const number = texts.pick([`^${String(texts.below(256)).padStart(3, '0')}`, '']);
+      text += texts.pick(signs) + texts.runs([DIGITS, CAPITALS, SMALL], 1 + texts.below(8)) + number;
+    }
+    const job = { ...markOf(5, i), input: ESCAPED };
+    if (!isRead) delete job.picture;
+    yield { suite: 'escapes', job, text };
+  }
+}
+
 // Every scheme; of texts that bring their check character every fourth with another one.
 function* schemes(row, texts, count) {
   for (const check of row.checks ?? []) {
@@ -176,6 +193,7 @@ function cases(share) {
     found.push(...formsOfEanUpc(row, texts, Math.ceil(500 * share)));
   }
   found.push(...itf14(new Texts(14), Math.ceil(400 * share)));
+  found.push(...escapes(new Texts(3), Math.ceil(1000 * share)));
   found.push(...lengthsOfCode128(new Texts(128), Math.ceil(10000 * share)));
   return found.map((one) => ({ ...one, name: ROW[one.job.symbology].name, text: latin1(one.text) }));
 }

@@ -179,16 +179,20 @@ function smallest(text, shape) {
   return symbols.sort((a, b) => areaOf(a) - areaOf(b))[0] ?? null;
 }
 
-function judgeSize({ job, text, message, answer }) {
-  const theirs = smallest((message ?? text).toString('latin1'), job.shape ?? SHAPES.SQUARE);
-  if (theirs === null) return undefined;  // too long for its look-ahead, or for the shape
+// theirs: rows and columns.
+export function judgeSizeBeside({ answer }, theirs) {
   if (answer.status === 0 && areaOf(answer) === areaOf(theirs)) return null;
   const isSmaller = answer.status === 0 && areaOf(answer) < areaOf(theirs);
   return { isSmaller, ours: answer.status === 0 ? `${answer.rows}x${answer.columns}` : answer.message, theirs: `${theirs.rows}x${theirs.columns}` };
 }
 
+function judgeSize({ job, text, message, answer }) {
+  const theirs = smallest((message ?? text).toString('latin1'), job.shape ?? SHAPES.SQUARE);
+  return theirs === null ? undefined : judgeSizeBeside({ answer }, theirs);  // null: too long for it, or for the shape
+}
+
 // Data codewords with their pads: error correction, placement and finder patterns are the judge's.
-function judgeModules({ answer }) {
+export function judgeModules({ answer }) {
   const codewords = [...answer.values.subarray(0, answer.capacity)].map((value) => `^${String(value).padStart(3, '0')}`).join('');
   const { rows, columns } = answer;
   const options = { raw: true, rows, columns, dmre: true, format: rows === columns ? 'square' : 'rectangle' };

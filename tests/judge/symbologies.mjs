@@ -115,6 +115,26 @@ function upcE(main) {
   return '0' + withCheck(expandUpcE(main.length === 6 ? `0${main}` : main));
 }
 
+// Texts with escapes, ^FNC1 to ^FNC3, ^^ and ^000 to ^255, are the same to the generator but for the numbers.
+const ESCAPED = 3;
+const ESCAPE = /\^(\^|\d{3}|FNC\d)/g;
+const unescaped = (text) => text.replace(ESCAPE, (whole, name) => {
+  if (!/\d{3}/.test(name)) return whole;
+  return name === '094' ? '^^' : String.fromCharCode(Number(name));
+});
+
+function drawCode128(text, job) {
+  const options = { newencoder: true };
+  if (job.input !== ESCAPED) return plain('code128', { [CHECK.OWN]: options })(text, job);
+  return { bcid: 'code128', text: unescaped(text), options: { binarytext: true, parsefnc: true, ...options } };
+}
+
+// An FNC1 in first place is the reader's, any other a separator.
+function saidOfCode128(text, job) {
+  if (job.input !== ESCAPED) return text;
+  return unescaped(text).replace(/^\^FNC1/, '').replace(ESCAPE, (_, name) => (name === '^' ? '^' : '\x1d'));
+}
+
 export const SYMBOLOGIES = [
   ofText({ number: 0, name: 'Codabar', draw: drawCodabar, alphabet: `${DIGITS}-$:/.+`, twoWidths: true, format: 'Codabar',
            checks: [CHECK.NONE, CHECK.MOD_16, CHECK.VERIFY], said: saidOfCodabar,
@@ -149,10 +169,10 @@ export const SYMBOLOGIES = [
   eanUpc({ number: 10, name: 'UPC-E', bcid: 'upce', digits: 7, first: '01', format: 'UPCE', zbar: 'EAN13', read: upcE }),
   eanUpc({ number: 19, name: 'UPC-E + 2', bcid: 'upce', digits: 7, addOn: 2, first: '01', format: 'UPCE', zbar: 'EAN13', read: upcE }),
   eanUpc({ number: 20, name: 'UPC-E + 5', bcid: 'upce', digits: 7, addOn: 5, first: '01', format: 'UPCE', zbar: 'EAN13', read: upcE }),
-  ofText({ number: 5, name: 'Code 128', draw: plain('code128', { [CHECK.OWN]: { newencoder: true } }), alphabet: bytes(0, 255), format: 'Code128' }),
-  ofText({ number: 6, name: 'Code 128 from set A', draw: plain('code128', { [CHECK.OWN]: { newencoder: true } }), alphabet: bytes(0, 255), format: 'Code128' }),
-  ofText({ number: 7, name: 'Code 128 set B', draw: plain('code128', { [CHECK.OWN]: { newencoder: true } }), alphabet: bytes(32, 127), format: 'Code128' }),
-  ofText({ number: 8, name: 'Code 128 from set C', draw: plain('code128', { [CHECK.OWN]: { newencoder: true } }), alphabet: bytes(0, 255), format: 'Code128' }),
+  ofText({ number: 5, name: 'Code 128', draw: drawCode128, said: saidOfCode128, alphabet: bytes(0, 255), format: 'Code128' }),
+  ofText({ number: 6, name: 'Code 128 from set A', draw: drawCode128, said: saidOfCode128, alphabet: bytes(0, 255), format: 'Code128' }),
+  ofText({ number: 7, name: 'Code 128 set B', draw: drawCode128, said: saidOfCode128, alphabet: bytes(32, 127), format: 'Code128' }),
+  ofText({ number: 8, name: 'Code 128 from set C', draw: drawCode128, said: saidOfCode128, alphabet: bytes(0, 255), format: 'Code128' }),
 ];
 export const ROW = Object.fromEntries(SYMBOLOGIES.map((row) => [row.number, row]));
 export const isCode128 = (number) => number >= 5 && number <= 8;

@@ -2,7 +2,9 @@
 // gap and the quiet zone of an add-on.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <vector>
 
 #include "mark/MarkTesting.h"
 #include "support/EanUpcReader.h"
@@ -109,6 +111,49 @@ TEST(EanUpcMarks, EveryTextIsReadBack) {
       ASSERT_EQ(given, !isWritten ? std::string::npos : main.size() == 6 ? 1u : 0u) << text;
     }
   }
+}
+
+// Texts that ask for the symbol of a reading, with its add-on or without.
+std::vector<std::string> FormsOf(const std::string& reading, bool isUpcE) {
+  const std::string main = reading.substr(0, reading.find(' '));
+  std::vector<std::string> forms = {main, main.substr(0, main.size() - 1)};
+  if (isUpcE) {
+    const std::string upcA = ExpandedUpcE(main.substr(0, 7));
+    forms.insert(forms.end(), {upcA, upcA + main[7]});
+    if (main[0] == '0') forms.push_back(main.substr(1, 6));
+  }
+  if (main.size() == reading.size()) return forms;
+  const std::string addon = reading.substr(main.size() + 1);
+  std::vector<std::string> withAddon;
+  for (const std::string& form : forms) {
+    withAddon.push_back(form + "+" + addon);
+    withAddon.push_back(form + addon);
+  }
+  return withAddon;
+}
+
+bool IsAmong(const std::string& text, const std::vector<std::string>& texts) {
+  return std::find(texts.begin(), texts.end(), text) != texts.end();
+}
+
+// Whatever is asked for: refused with a sentence, or read as a symbol that the text stands for.
+TEST(EanUpcMarks, RandomTextsAreReadAsWhatTheyStandForOrRefused) {
+  constexpr std::int32_t kSymbologies[] = {3, 9, 10, 12, 13, 14, 15, 16, 17, 18, 19, 20};
+  SeededTexts texts(20);
+  int marked = 0;
+  for (int round = 0; round < 60000; ++round) {
+    const std::int32_t symbology = kSymbologies[round % 12];
+    std::string text = texts.Next(round % 5 == 0 ? "0000001234" : "0123456789", 5, 19);
+    if (round % 3 == 0) text[text.size() - (round % 2 == 0 ? 3 : 6) % text.size()] = '+';
+    const Mark mark(EanUpcJob(symbology, text));
+    ASSERT_NE(mark.IsOk(), mark.Message() != "") << text;
+    if (!mark.IsOk()) continue;
+    ++marked;
+    const bool isUpcE = symbology == 10 || symbology >= 19;
+    ASSERT_TRUE(IsAmong(text, FormsOf(mark.Reading(), isUpcE)))
+        << mark->name << " " << text << " reads " << mark.Reading();
+  }
+  EXPECT_GT(marked, 3000);
 }
 
 std::string GapRefusal(std::int32_t symbology, std::int32_t gap,

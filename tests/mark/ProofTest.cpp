@@ -97,8 +97,31 @@ DeviationSet Only(Deviation deviation) {
   return met;
 }
 
+// What a Data Matrix by the book has beside: heads, shapes, all 48 sizes by their shape.
+void VaryMatrix(RandomJobs& random, BarhatchJob& job) {
+  constexpr std::int32_t kShapes[] = {BARHATCH_SQUARE, BARHATCH_RECTANGLE, BARHATCH_ANY_SHAPE,
+                                      BARHATCH_DMRE, BARHATCH_DMRE | BARHATCH_RECTANGLE};
+  constexpr std::int32_t kEnvelopes[] = {0, 0, 0, 5, 6, 12, BARHATCH_ENVELOPE_DD};
+  constexpr std::uint32_t kFlags[] = {BARHATCH_FNC1_SECOND, BARHATCH_GS_SEPARATORS,
+                                      BARHATCH_LOOSE_END, BARHATCH_INDUSTRY_144,
+                                      BARHATCH_READER_PROGRAMMING};
+  job.flags = 0;
+  job.rows = job.columns = 0;
+  job.shape = kShapes[random.Below(5)];
+  job.envelope = kEnvelopes[random.Below(7)];
+  if (random.OneIn(2)) job.flags |= kFlags[random.Below(5)];
+  if (random.OneIn(4)) job.eci = static_cast<std::int32_t>(random.Below(30000));
+  if (random.OneIn(6)) {
+    job.part = 1 + static_cast<std::int32_t>(random.Below(3));
+    job.parts = 3;
+    job.part_id = 1 + static_cast<std::int32_t>(random.Below(254));
+  }
+  if (random.OneIn(9)) job.rows = job.columns = 144;
+}
+
 // What marks by the book have beside; many of the jobs are refused for it.
 void Vary(RandomJobs& random, BarhatchJob& job) {
+  if (job.symbology == BARHATCH_DATA_MATRIX) return VaryMatrix(random, job);
   if (job.symbology == BARHATCH_INTERLEAVED_2_OF_5 && random.OneIn(4)) {
     job.symbology = BARHATCH_ITF_14;
   }

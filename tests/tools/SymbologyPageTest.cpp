@@ -99,6 +99,8 @@ std::string QuietZoneOf(const Result& result) {
          modules(result.total().right - result.symbol().right);
 }
 
+std::string NameOfTest(const ::testing::TestParamInfo<Row>& row) { return "Type" + row.param[0]; }
+
 class PublishedTable : public ::testing::TestWithParam<Row> {};
 
 class DeviceTable : public ::testing::TestWithParam<Row> {
@@ -125,7 +127,8 @@ TEST_P(PublishedTable, HasAnExampleThatIsReadAndItsQuietZone) {
   EXPECT_EQ(GetParam()[kQuiet], QuietZoneOf(result));
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryType, PublishedTable, ::testing::ValuesIn(RowsOf(kColumns)));
+INSTANTIATE_TEST_SUITE_P(EveryType, PublishedTable, ::testing::ValuesIn(RowsOf(kColumns)),
+                         NameOfTest);
 
 TEST_P(DeviceTable, HasTheLengthsThatTheDeviceTakes) {
   const auto [shortest, longest] = LengthsOf(GetParam()[kLength]);
@@ -143,7 +146,8 @@ TEST_P(DeviceTable, HasTheQuietZoneOfTheExample) {
   EXPECT_EQ(GetParam()[kDeviceQuiet], QuietZoneOf(result));
 }
 
-INSTANTIATE_TEST_SUITE_P(EveryType, DeviceTable, ::testing::ValuesIn(RowsOf(kDeviceColumns)));
+INSTANTIATE_TEST_SUITE_P(EveryType, DeviceTable, ::testing::ValuesIn(RowsOf(kDeviceColumns)),
+                         NameOfTest);
 
 // "`itf` `12345`" and "`123457`".
 TEST(SymbologyPage, HasAnExampleOfEveryCheckScheme) {
@@ -180,10 +184,11 @@ TEST(SymbologyPage, HasARowOfEveryType) {
 TEST(Symbologies, AreFoundByNumberAndByNameInAnyCase) {
   EXPECT_EQ(SymbologyFrom("0"), BARHATCH_CODABAR);
   EXPECT_EQ(SymbologyFrom("22"), BARHATCH_CODE_93_FULL);
+  EXPECT_EQ(SymbologyFrom("101"), BARHATCH_ITF_14);
   EXPECT_EQ(SymbologyFrom("Code39"), BARHATCH_CODE_39);
   EXPECT_EQ(SymbologyFrom("UPCE+5"), BARHATCH_UPC_E_ADDON_5);
   EXPECT_EQ(SymbologyFrom("DataMatrix"), BARHATCH_DATA_MATRIX);
-  for (const char* none : {"", "23", "100", "-1", "1x", "code", "code390"}) {
+  for (const char* none : {"", "23", "103", "-1", "1x", "code", "code390"}) {
     EXPECT_EQ(SymbologyFrom(none), std::nullopt) << none;
   }
 }
