@@ -148,6 +148,8 @@ EQUIVALENT = (
                             ("(doubles > most / sizeof(double))", "(false)"))),
     ("Sentences.cpp", "given > longest &&", "given >= longest &&", "a text as long as the longest is not refused for its length"),
     ("Sentences.cpp", "dataCodewords < refusal", "dataCodewords <= refusal", "what holds exactly so many is the smallest, and taken"),
+    ("ElementSentences.cpp", "length > lengths.longest", "length >= lengths.longest", "a value of all its parts is complete"),
+    ("ElementSentences.cpp", "length < lengths.shortest", "length <= lengths.shortest", "a value that is as short as it may be is complete"),
     ("Hatcher.cpp", "mostDoubles <= 0", "mostDoubles < 0", "a list of nothing makes no fill either"),
     ("LinePatterns.cpp", "strokes > kMostDoubles", "strokes >= kMostDoubles", "so many are refused with their coordinates"),
     ("SpiralPattern.cpp", "lower = lowEdge", "", "every bound is 0.0 from the start"),

@@ -183,9 +183,9 @@ void SayTooSmall(const BarhatchJob& job, const Refusal& refusal, Message& messag
   if (mayNot && WouldGrow(job, refusal.figure)) message << "; MAY_GROW allows a larger one";
 }
 
-// By the book: what the size holds, and one that would do.
+// By the book: what the size holds, three at least, and one that would do.
 void SayHeld(const BarhatchJob& job, const Refusal& refusal, Message& message) {
-  message << refusal.figure << (refusal.figure == 1 ? " codeword, " : " codewords, ");
+  message << refusal.figure << " codewords, ";
   SaySize(job.rows, job.columns, message)
       << " holds " << FindSize(job.rows, job.columns)->dataCodewords;
   const SymbolSize* const grown = GrownSize(refusal.figure, job.rows, job.columns);

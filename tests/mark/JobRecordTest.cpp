@@ -192,6 +192,28 @@ TEST(JobOptions, OfAMatrix) {
             "2 an envelope and FNC1_SECOND exclude each other");
 }
 
+TEST(JobOptions, APublishedMatrixBeginsWithOneThing) {
+  const std::string refusal = "2 a macro envelope, READER_PROGRAMMING and parts exclude each other";
+  const auto begun = [](std::int32_t envelope, std::uint32_t flags, std::int32_t parts) {
+    return Changed(PublishedJobOf(BARHATCH_DATA_MATRIX, "123456"), [=](BarhatchJob& job) {
+      job.envelope = envelope;
+      job.flags = flags;
+      job.part = parts;
+      job.parts = parts;
+    });
+  };
+  for (const std::int32_t envelope : {BARHATCH_ENVELOPE_05, BARHATCH_ENVELOPE_06}) {
+    EXPECT_EQ(begun(envelope, BARHATCH_READER_PROGRAMMING, 0), refusal);
+    EXPECT_EQ(begun(envelope, 0, 2), refusal);
+    EXPECT_EQ(begun(envelope, 0, 0), "0 ");
+  }
+  for (const std::int32_t envelope : {BARHATCH_ENVELOPE_12, BARHATCH_ENVELOPE_DD}) {
+    EXPECT_EQ(begun(envelope, BARHATCH_READER_PROGRAMMING, 0), "0 ") << "data like others";
+    EXPECT_EQ(begun(envelope, 0, 2), "0 ");
+  }
+  EXPECT_EQ(begun(0, BARHATCH_READER_PROGRAMMING, 2), refusal);
+}
+
 TEST(JobOptions, Pointers) {
   EXPECT_EQ(Linear([](BarhatchJob& job) { job.release = [](void*, void*) {}; }),
             "2 allocate and release go together");

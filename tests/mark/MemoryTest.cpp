@@ -1,6 +1,7 @@
 // All memory of a mark comes from the job's own functions, and all of it goes back to them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <cstring>
 #include <functional>
@@ -8,6 +9,7 @@
 #include <vector>
 
 #include "mark/MarkTesting.h"
+#include "mark/RandomJobs.h"
 #include "support/AllocationProbe.h"
 
 namespace barhatch::test {
@@ -55,7 +57,71 @@ bool MarkWithFailure(BarhatchJob job, std::size_t failAt) {
   return status == BARHATCH_OK;
 }
 
+// A host that looks behind the end of each block when it comes back.
+class GuardedMemory {
+ public:
+  BarhatchJob& Serve(BarhatchJob& job) {
+    job.allocate = [](void* /*context*/, std::size_t bytes) -> void* {
+      auto* const block = static_cast<unsigned char*>(std::malloc(kHead + bytes + kGuard));
+      std::memcpy(block, &bytes, sizeof bytes);
+      std::memset(block + kHead, 0x5A, bytes + kGuard);
+      return block + kHead;
+    };
+    job.release = [](void* context, void* block) {
+      auto* const begin = static_cast<unsigned char*>(block) - kHead;
+      std::size_t bytes = 0;
+      std::memcpy(&bytes, begin, sizeof bytes);
+      const unsigned char* const guard = begin + kHead + bytes;
+      const bool isWhole =
+          std::all_of(guard, guard + kGuard, [](int byte) { return byte == 0x5A; });
+      if (!isWhole) ++static_cast<GuardedMemory*>(context)->overwritten_;
+      std::free(begin);
+    };
+    job.context = this;
+    return job;
+  }
+
+  int Overwritten() const { return overwritten_; }
+
+ private:
+  static constexpr std::size_t kHead = 16;
+  static constexpr std::size_t kGuard = 16;
+
+  int overwritten_ = 0;
+};
+
+// A random text as units or as UTF-8, by the book or as the device has it.
+BarhatchJob RandomJob(RandomJobs& random, std::int32_t symbology, const std::u16string& units) {
+  const bool isDevice = random.OneIn(2);
+  BarhatchJob job = JobOf(symbology, nullptr, isDevice ? BARHATCH_DEVICE : BARHATCH_PUBLISHED);
+  job.input = BARHATCH_UNITS;
+  job.text = units.data();
+  job.length = units.size();
+  job.pattern = kMarkPatterns[random.Below(6)];
+  job.invert = random.OneIn(2) ? 1 : 0;
+  job.flags = random.OneIn(2) ? BARHATCH_QUIET_INSIDE : 0;
+  return job;
+}
+
 }  // namespace
+
+TEST(MarkMemory, IsNotWrittenBehindTheEndOfABlock) {
+  RandomJobs random(5);
+  int made = 0;
+  for (int round = 0; round < 6000; ++round) {
+    const std::int32_t symbology = kMarkSymbologies[round % 24];
+    const std::u16string text =
+        symbology == BARHATCH_DATA_MATRIX ? random.MatrixText() : random.LinearText(symbology);
+    BarhatchJob job = RandomJob(random, symbology, text);
+    GuardedMemory memory;
+    {
+      const Mark mark(memory.Serve(job));
+      made += mark.IsOk() ? 1 : 0;
+    }
+    ASSERT_EQ(memory.Overwritten(), 0) << round;
+  }
+  EXPECT_GT(made, 2000);
+}
 
 TEST(MarkMemory, RunsOutAtEveryAllocationAndNothingIsLost) {
   ForEachJob([](const BarhatchJob& job) {
