@@ -36,8 +36,8 @@ Refusal NarrowUnits(const char16_t* units, std::size_t count, char* bytes, std::
 }
 
 void NarrowTokens(const TokenText& text, char* bytes) {
-  for (std::size_t i = 0; i < text.length; ++i) {
-    bytes[i] = IsByte(text.tokens[i]) ? static_cast<char>(text.tokens[i]) : kNoByte;
+  for (std::size_t at = 0; at < text.length; ++at) {
+    bytes[at] = IsByte(text.tokens[at]) ? static_cast<char>(text.tokens[at]) : kNoByte;
   }
   bytes[text.length] = '\0';
 }
