@@ -153,7 +153,7 @@ enum class Warning : std::uint32_t {
   kLeadingZero = BARHATCH_W_LEADING_ZERO,   // Interleaved 2 of 5 got a 0 in front
   kFewDigits = BARHATCH_W_FEW_DIGITS,       // fewer than 6 digits of Interleaved 2 of 5
   kEci = BARHATCH_W_ECI,                    // a character above 255 designates an ECI
-  k144 = BARHATCH_W_144,                    // not in this version
+  k144 = BARHATCH_W_144,                    // 144 x 144 in the standard's order
   kQuietZone = BARHATCH_W_QUIET_ZONE,       // smaller than the standard's
   kInverted = BARHATCH_W_INVERTED,          // light elements are marked, but no quiet zone
   kLowByte = BARHATCH_W_LOW_BYTE,           // of a character above 255 the low byte is written

@@ -212,7 +212,8 @@ EQUIVALENT = (
       for more in (0, 2)),
     ("SymbolWriter.cpp", "(overflowed_)", "(false)",
      "behind an assertion of the same; without it MoreLettersThanAnnouncedAreNoString fails"),
-    ("UpcE.cpp", "char upcA[kUpcADigits + 1]", "char upcA[kUpcADigits + 2]", "an array longer than needed"),
+    *(("UpcE.cpp", f"char {name}[kUpcADigits + 1]", f"char {name}[kUpcADigits + 2]", "an array longer than needed")
+      for name in ("upcA", "number")),
     ("HatchGrid.cpp", "whole = 0", "whole = 1", "written before it is read"),
     ("HatchGrid.cpp", "+ 4.0)", "+ 2.0)", "a margin: two are enough"),
     ("HatchGrid.cpp", "+ 4.0)", "+ 5.0)", "a margin: two are enough"),

@@ -198,6 +198,7 @@ bool HasGcode(const Options& o) { return HasOutput(o, {".gcode", ".nc"}); }
 bool MarksPoints(const Options& o) { return o.request.job.pattern == BARHATCH_POINTS; }
 bool MarksStrokes(const Options& o) { return !MarksPoints(o); }
 bool HasBatch(const Options& o) { return !o.batch.empty(); }
+bool HasBatchOfMatrices(const Options& o) { return HasBatch(o) && IsForMatrix(o); }
 bool HasSheet(const Options& o) { return o.sheet; }
 
 // Where an option has an effect.
@@ -223,7 +224,7 @@ constexpr Applicability kApplicabilities[] = {
     {"--dwell", MarksPoints, "points (--pattern 6)"},
     {"--mark-speed", MarksStrokes, "strokes; points have a --dwell"},
     {"--sheet", HasBatch, "a batch"},
-    {"--same-size", HasBatch, "a batch"},
+    {"--same-size", HasBatchOfMatrices, "a batch of Data Matrix symbols"},
     {"--mask", IsForMatrix, "a Data Matrix"},
     {"--columns", HasSheet, "a --sheet"},
 };

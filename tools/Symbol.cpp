@@ -65,6 +65,9 @@ std::string Advice(const Symbol& symbol, const Options& options) {
   if (symbol.request.job.invert != 0 && !(options.darkPart && HasQuietZoneInside(symbol.request))) {
     return "; inverted marks are read with --dark-part and --quiet-zone";
   }
+  if (symbol.result.warnings().Has(barhatch::Warning::k144)) {
+    return "; readers that know the industry's order alone need --industry-144";
+  }
   if (symbol.drawing.kind != MarkKind::kPoints) return "";
   if (!IsMatrix(symbol.request)) return "; points are no bars";
   return fmt::format("; points are read with a --beam of about a module, {:.6g}",

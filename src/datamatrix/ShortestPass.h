@@ -107,7 +107,7 @@ class ShortestPass {
   const TokenText& text_;
   const std::size_t lead_;
   Place* const places_;
-  Costs costs_[kKept];
+  Costs costs_[kKept] = {};
 
   Cost best_ = kNever;  // of ASCII at the place in hand
   int source_ = kFromToken;

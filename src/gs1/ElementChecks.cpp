@@ -193,13 +193,14 @@ bool IsMediaType(std::uint64_t type) { return (type >= 1 && type <= 10) || type 
 
 // The signs of equality fill the value up to groups of three characters.
 bool IsPadded(const TokenText& part) {
-  std::size_t data = 0;
-  while (data < part.length && part.tokens[data] != '=') ++data;
-  const std::size_t padding = part.length - data;
-  for (std::size_t i = data; i < part.length; ++i) {
-    if (part.tokens[i] != '=') return false;
+  std::size_t data = part.length;
+  while (data > 0 && part.tokens[data - 1] == '=') --data;
+  for (std::size_t i = 0; i < data; ++i) {
+    if (part.tokens[i] == '=') return false;
   }
-  return padding == 0 || (data > 0 && padding <= 2 && part.length % 3 == 0);
+  const std::size_t padding = part.length - data;
+  const bool fillsUp = data > 0 && padding < 3 && part.length % 3 == 0;
+  return padding == 0 || fillsUp;
 }
 
 bool IsUpper(Token token) { return token >= 'A' && token <= 'Z'; }

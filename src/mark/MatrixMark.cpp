@@ -90,10 +90,10 @@ Refusal KeepMatrix(const BarhatchJob& job, const MatrixSymbol& matrix, const Con
   return {};
 }
 
-Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::size_t units,
+Refusal MakeMatrixSymbol(const BarhatchJob& job, const InputText& text, std::size_t count,
                          Conformance& how, MarkedSymbol& symbol, BarhatchResult& result) {
   const auto make = job.conformance == BARHATCH_DEVICE ? &MakeDeviceMatrix : &MakePublishedMatrix;
-  const Refusal refusal = make(job, text, units, how, symbol, result);
+  const Refusal refusal = make(job, text, count, how, symbol, result);
   if (refusal.IsRefused()) return refusal;
   symbol.quiet = OnAllSides(QuietZoneOf(QuietModulesOf(job), kStandardQuietModules));
   if (symbol.quiet.left < kStandardQuietModules) {

@@ -141,9 +141,10 @@ Refusal VerifyCheck(const PreparedText& text) {
 }  // namespace
 
 int Code39ValueOfRow(int row) {
+  const char character = kCode39Characters[row].character;
   if (row < kCode39StartStop) return row;
   int sign = 0;
-  while (kSigns[sign] != kCode39Characters[row].character) ++sign;
+  while (kSigns[sign] != character) ++sign;
   return kCode39StartStop + sign;
 }
 

@@ -10,12 +10,10 @@ namespace barhatch {
 
 namespace {
 
-constexpr std::size_t kUpcEDigits = 7;  // number system and six
-
-// A text between its parts. The sign stands behind the main digits.
+// How many digits the parts of a text have. The sign stands between them.
 struct Parts {
-  Characters main;
-  Characters addon;
+  std::size_t main;
+  std::size_t addon;
   bool hasSign;
 };
 
@@ -93,16 +91,16 @@ Refusal CheckCharacters(const Characters& text) {
   return {};
 }
 
+// In front of an add-on that is longer than the text the count wraps: no symbol takes it.
 Parts Split(const EanUpcLayout& asked, const Characters& text) {
-  const auto digits = static_cast<std::size_t>(asked.addonDigits);
   const auto* const sign =
       static_cast<const char*>(std::memchr(text.text, kAddonSign, text.length));
-  if (sign != nullptr) {
-    const auto main = static_cast<std::size_t>(sign - text.text);
-    return {{text.text, main}, {sign + 1, text.length - main - 1}, true};
+  if (sign == nullptr) {
+    const auto digits = static_cast<std::size_t>(asked.addonDigits);
+    return {text.length - digits, digits, false};
   }
-  const std::size_t main = text.length > digits ? text.length - digits : 0;
-  return {{text.text, main}, {text.text + main, text.length - main}, false};
+  const auto main = static_cast<std::size_t>(sign - text.text);
+  return {main, text.length - main - 1, true};
 }
 
 bool IsAddon(const EanUpcLayout& asked, std::size_t digits) {
@@ -113,15 +111,15 @@ bool IsAddon(const EanUpcLayout& asked, std::size_t digits) {
 // Null for a count of main digits that the symbol does not take.
 const MainForm* FormOf(EanUpcSymbol plain, const Parts& parts) {
   for (const MainForm& form : kMainForms) {
-    if (form.symbol != plain || form.digits != parts.main.length) continue;
-    return form.needsSign && parts.addon.length != 0 && !parts.hasSign ? nullptr : &form;
+    if (form.symbol != plain || form.digits != parts.main) continue;
+    return form.needsSign && parts.addon != 0 && !parts.hasSign ? nullptr : &form;
   }
   return nullptr;
 }
 
 Refusal RefusedLength(const Characters& text, const Parts& parts) {
   if (!parts.hasSign) return {Reason::kLength, -1, FigureOf(text.length)};
-  return {Reason::kLength, At(parts.main.length), FigureOf(parts.main.length)};
+  return {Reason::kLength, At(parts.main), FigureOf(parts.main)};
 }
 
 Refusal VerifyCheckDigit(const Characters& main, int right) {
@@ -131,12 +129,12 @@ Refusal VerifyCheckDigit(const Characters& main, int right) {
   return {Reason::kCheck, At(last), character};
 }
 
-// Writes the number system and the six digits.
+// Writes the number system and the six digits; what stands behind them is not to be read.
 Refusal ReadUpcE(const Characters& main, bool hasCheckDigit, Conformance& how, char* upcE) {
   const std::size_t inFront = main.length < kUpcEDigits ? 1 : 0;
   upcE[0] = '0';
   if (main.length < kUpcADigits) {
-    std::memcpy(upcE + inFront, main.text, kUpcEDigits - inFront);
+    std::memcpy(upcE + inFront, main.text, main.length);
   } else if (!SuppressUpcA(main.text, upcE)) {
     return {Reason::kNoUpcE, 0, 0, kUpcADigits};
   }
@@ -155,6 +153,8 @@ Refusal ReadMain(const MainForm& form, const Characters& main, Conformance& how,
   return VerifyCheckDigit(main, CheckDigit(main.text, static_cast<int>(given)));
 }
 
+static_assert(PreparationRoom(1) >= kWorkingCapacity, "the digits have room");
+
 }  // namespace
 
 Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, CheckScheme check,
@@ -164,37 +164,36 @@ Refusal ReadEanUpcText(EanUpcSymbol asked, const Characters& text, CheckScheme c
 
   const EanUpcLayout& layout = EanUpcLayoutOf(asked);
   const Parts parts = Split(layout, text);
-  const Characters& addon = parts.addon;
-  const std::int32_t behindMain = At(text.length - parts.main.length);
-  if (parts.hasSign && !IsAddon(layout, addon.length)) {
-    return {Reason::kAddonDigits, At(parts.main.length), FigureOf(addon.length), behindMain};
+  const std::int32_t behindMain = At(text.length - parts.main);
+  if (parts.hasSign && !IsAddon(layout, parts.addon)) {
+    return {Reason::kAddonDigits, At(parts.main), FigureOf(parts.addon), behindMain};
   }
   const EanUpcSymbol plain = PlainOf(asked);
   const MainForm* const form = FormOf(plain, parts);
   if (form == nullptr) return RefusedLength(text, parts);
   if (check == CheckScheme::kVerify && !form->hasCheckDigit) {
-    return {Reason::kCheckCount, -1, FigureOf(parts.main.length)};
+    return {Reason::kCheckCount, -1, FigureOf(parts.main)};
   }
-  const bool isBesideEan8 = plain == EanUpcSymbol::kEan8 && addon.length != 0;
+  const bool isBesideEan8 = plain == EanUpcSymbol::kEan8 && parts.addon != 0;
   if (isBesideEan8 && !how.Deviates(Deviation::kDEAN_2)) {
-    return {Reason::kNotStandard, At(parts.main.length), 0, behindMain};
+    return {Reason::kNotStandard, At(parts.main), 0, behindMain};
   }
-  read.symbol = WithAddon(plain, addon.length);
-  const Refusal main = ReadMain(*form, parts.main, how, read.digits);
+  read.symbol = WithAddon(plain, parts.addon);
+  const Refusal main = ReadMain(*form, {text.text, parts.main}, how, read.digits);
   if (main.IsRefused()) return main;
   const auto mainDigits = static_cast<std::size_t>(layout.mainDigits);
-  std::memcpy(read.digits + mainDigits, addon.text, addon.length);
-  read.length = mainDigits + addon.length;
+  std::memcpy(read.digits + mainDigits, text.text + text.length - parts.addon, parts.addon);
+  read.length = mainDigits + parts.addon;
   read.digits[read.length] = '\0';
   return {};
 }
 
 Refusal PrepareEanUpc(const LinearOptions& options, PreparedText& text, Conformance& how) {
-  EanUpcDigits read;
+  EanUpcDigits read = {};
   const auto asked = static_cast<EanUpcSymbol>(text.variant);
   const Refusal refusal = ReadEanUpcText(asked, {text.room, text.length}, options.check, how, read);
   if (refusal.IsRefused()) return refusal;
-  std::memcpy(text.room, read.digits, read.length + 1);
+  std::memcpy(text.room, read.digits, sizeof read.digits);
   text.length = read.length;
   text.variant = EanUpcVariant(read.symbol, options.addonGap);
   if (EanUpcLayoutOf(read.symbol).addonDigits != 0) text.quiet.right = kAddonQuietModules;

@@ -114,7 +114,12 @@ constexpr CheckSchemes kCode11Checks =
 // A row whose characters are as the encoder draws them, with 10 modules of quiet zone.
 constexpr SymbologyRow Row(std::int32_t symbology, const char* name, const char* accepts,
                            const TextRule& text, Encoder encode, Reader read) {
-  return {symbology, {name, accepts, nullptr}, {text, encode, 0, 10, 10}, read, kAsDrawn, nullptr,
+  return {{name, accepts, nullptr},
+          {text, encode, 0, 10, 10},
+          read,
+          nullptr,
+          symbology,
+          kAsDrawn,
           kOwnCheck};
 }
 

@@ -29,13 +29,13 @@ struct DrawingRow {
 };
 
 struct SymbologyRow {
-  std::int32_t symbology;  // the number that hosts ask for it by
   SymbologyName name;
   DrawingRow drawing;
   Reader read;
-  ReadingForm reading;  // of the text as it is drawn where nothing prepares it
-  Prepare prepare;      // of texts by the book; null: they are drawn as they stand
-  CheckSchemes checks;  // that a mark by the book may ask for
+  Prepare prepare;         // of texts by the book; null: they are drawn as they stand
+  std::int32_t symbology;  // the number that hosts ask for it by
+  ReadingForm reading;     // of the text as it is drawn where nothing prepares it
+  CheckSchemes checks;     // that a mark by the book may ask for
 };
 
 // In the order of their numbers.

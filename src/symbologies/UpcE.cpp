@@ -1,7 +1,5 @@
 #include "symbologies/UpcE.h"
 
-#include <cstring>
-
 #include "job/CharacterClasses.h"
 #include "symbologies/EanUpcElements.h"
 
@@ -34,18 +32,18 @@ bool IsSuppressedForm(const char* six) {
   return last < '5' || six[4] != '0';
 }
 
-bool IsSameNumber(const char* a, const char* b) {
-  for (int i = 0; i < kUpcADigits; ++i) {
-    if (a[i] != b[i]) return false;
+// A NUL ends the number.
+bool BeginsWith(const char* text, const char* number) {
+  for (; *number != '\0'; ++number) {
+    if (*text++ != *number) return false;
   }
   return true;
 }
 
 // What the six digits that suppress the zeros by the rule of this last digit would be.
 void TakeSix(const char* upcA, char last, char* six) {
-  const char* const places = kExpansions[last - '0'];
-  for (int i = 1; i < kUpcADigits; ++i) {
-    if (places[i] >= 'a') six[places[i] - 'a'] = upcA[i];
+  for (const char* place = kExpansions[last - '0']; *place != '\0'; ++place, ++upcA) {
+    if (*place >= 'a') six[*place - 'a'] = *upcA;
   }
   six[kSuppressedDigits - 1] = last;
 }
@@ -53,11 +51,11 @@ void TakeSix(const char* upcA, char last, char* six) {
 // As one number.
 std::int32_t RightSix(const char* upcE) {
   char upcA[kUpcADigits + 1];
-  char right[1 + kSuppressedDigits];
+  char right[kUpcEDigits];
   ExpandUpcE(upcE, upcA);
   std::int32_t six = 0;
   if (!SuppressUpcA(upcA, right)) return six;
-  for (int i = 1; i <= kSuppressedDigits; ++i) six = six * 10 + (right[i] - '0');
+  for (int i = 1; i < kUpcEDigits; ++i) six = six * 10 + (right[i] - '0');
   return six;
 }
 
@@ -75,15 +73,12 @@ void ExpandUpcE(const char* upcE, char* upcA) {
 }
 
 bool SuppressUpcA(const char* upcA, char* upcE) {
-  char attempt[1 + kSuppressedDigits] = {upcA[0]};
+  upcE[0] = upcA[0];
   for (char last = '0'; last <= '9'; ++last) {
     char number[kUpcADigits + 1];
-    TakeSix(upcA, last, attempt + 1);
-    ExpandUpcE(attempt, number);
-    if (IsSameNumber(number, upcA) && IsSuppressedForm(attempt + 1)) {
-      std::memcpy(upcE, attempt, sizeof attempt);
-      return true;
-    }
+    TakeSix(upcA, last, upcE + 1);
+    ExpandUpcE(upcE, number);
+    if (BeginsWith(upcA, number) && IsSuppressedForm(upcE + 1)) return true;
   }
   return false;
 }

@@ -18,6 +18,8 @@ namespace barhatch {
 
 // Digits of a UPC-A number without its check digit.
 constexpr int kUpcADigits = 11;
+// Number system and six digits.
+constexpr int kUpcEDigits = 7;
 constexpr int kUpcESixDigits = 6;
 
 // Writes the UPC-A number that the number system and the six digits at upcE stand for, 11 digits
@@ -26,8 +28,8 @@ constexpr int kUpcESixDigits = 6;
 void ExpandUpcE(const char* upcE, char* upcA);
 
 // The way back: writes the number system and the six digits, 7 characters, of the UPC-A number at
-// upcA. False for a number whose zeros cannot be suppressed, and then nothing is written. Of the
-// digits that stand for a number only one choice is the standard's. REQUIRES: 11 digits at upcA.
+// upcA. False for a number whose zeros cannot be suppressed, and then they are none. Of the digits
+// that stand for a number only one choice is the standard's. REQUIRES: 11 digits at upcA.
 bool SuppressUpcA(const char* upcA, char* upcE);
 
 // The check digit 0..9 of a UPC-E number, which is that of the UPC-A number it stands for.

@@ -56,8 +56,8 @@ export const LINEAR_DIFFERENCES = [
       const { name, addOn } = ROW[one.job.symbology];
       return name.startsWith('UPC-A') && [7, 8].includes(one.text.length - addOn) && isRefusedAs(one, BAD_LENGTH);
     } },
-  { judge: 'bwip-js', what: 'long Code 93', why: 'it takes texts of fewer symbol characters',
-    when: ({ job, text, theirs }) => [2, 22].includes(job.symbology) && text.length >= 100 && theirs.includes('code93inputTooLong') },
+  { judge: 'bwip-js', what: 'long Code 39 and Code 93', why: 'it takes texts of fewer symbol characters',
+    when: ({ job, text, theirs }) => [1, 102, 2, 22].includes(job.symbology) && text.length >= 100 && /code(39|93)inputTooLong/.test(theirs) },
   { judge: 'bwip-js', what: 'EAN and UPC with a sign and no add-on behind it', why: 'it draws the symbol alone; the library refuses it',
     when: (one) => ROW[one.job.symbology].isEanUpc && one.text.endsWith('+') && isRefusedAs(one, BAD_SYNTAX) },
   { judge: 'bwip-js', what: 'UPC-E of six digits and an add-on without a sign', why: 'as many digits as UPC-E with its check digit or a UPC-A number: refused',
@@ -79,7 +79,7 @@ export const LINEAR_DIFFERENCES = [
   { judge: 'bwip-js', what: 'Code 128 set B of other characters', why: 'it stays in set B, which has none but 32 to 127',
     when: (one) => one.job.symbology === 7 && isRefusedAs(one, BAD_CHARACTER) && /[^\x20-\x7f]/.test(one.text) },
   { judge: 'zxing', what: 'Codabar of one character', why: 'it reads symbols of two and more',
-    when: ({ job, text, theirs }) => job.symbology === 0 && text.length === 3 && theirs === 'nothing' },
+    when: ({ job, ours, theirs }) => job.symbology === 0 && ours.length === hex('A1B').length && theirs === 'nothing' },
   { judge: 'zxing', what: 'Code 39, full ASCII', why: 'where it does not take it for full ASCII it reports the characters as they are drawn',
     when: ({ job, text, theirs }) => job.symbology === 102 && theirs === hex(drawnOf39Full(text, job)) },
   { judge: 'zxing', what: 'Interleaved 2 of 5 of two digits', why: 'too few to be told from chance',
@@ -87,7 +87,7 @@ export const LINEAR_DIFFERENCES = [
   { judge: 'zxing', what: 'add-ons behind 11 or 12 light modules', why: 'it looks no farther',
     when: ({ job, theirs }) => job.addon_gap >= 11 && theirs === 'nothing' },
   { judge: 'zbar', what: 'Codabar of one character', why: 'it reads symbols of two and more',
-    when: ({ job, text, theirs }) => job.symbology === 0 && text.length === 3 && theirs === 'nothing' },
+    when: ({ job, ours, theirs }) => job.symbology === 0 && ours.length === hex('A1B').length && theirs === 'nothing' },
   { judge: 'zbar', what: 'Interleaved 2 of 5 of fewer than six digits', why: 'it reads six and more; the mark has the warning FEW_DIGITS',
     when: ({ job, text, theirs }) => job.symbology === 21 && text.length < 5 && theirs === 'nothing' },
   { judge: 'zbar', what: 'UPC-E of number system 1', why: 'it does not know it',

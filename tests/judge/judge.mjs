@@ -15,6 +15,7 @@ import { prepare } from './readers.mjs';
 
 const FAMILIES = [linear, matrix, gs1];
 const DIFFERENCES = FAMILIES.flatMap(({ differences }, family) => differences.map((row) => ({ ...row, family })));
+const BYTES = 1;  // the input of what is sampled
 const BATCH = 500;
 const EVERY_SPOILT = 9;
 const SAMPLED_OF_A_KIND = 15;
@@ -167,7 +168,7 @@ function printDifferences(differences) {
 // Some short texts of each symbology and suite, as the generator drew or refused them.
 function writeSample(file, cases, program) {
   const kinds = {};
-  for (const one of cases.filter(({ text }) => text.length <= SAMPLED_LENGTH)) {
+  for (const one of cases.filter(({ job, text }) => job.input === BYTES && text.length <= SAMPLED_LENGTH)) {
     (kinds[`${one.suite} ${one.job.symbology}`] ??= []).push(one);
   }
   const sampled = Object.values(kinds).flatMap((kind) => {

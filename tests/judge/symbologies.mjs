@@ -68,6 +68,7 @@ const saidOfCodabar = (text, job) => {
   const drawn = codabarNames(framed(text, job));
   return job.check === CHECK.MOD_16 ? drawn.slice(0, -1) + modulo16(drawn) + drawn.at(-1) : drawn;
 };
+const hasCheck39 = ({ check }) => check === CHECK.MOD_43 || check === CHECK.VERIFY;
 const saidOf39Full = (text, job) => (job.check === CHECK.MOD_43 ? text + modulo43(spellOut(text)) : text);
 const saidOf2of5 = (text, job) => {
   const digits = job.check === CHECK.ITF_10 ? withCheck(text) : text;
@@ -99,13 +100,15 @@ function eanUpc({ number, name, bcid, digits, addOn = 0, format, read, first = D
     alphabet: DIGITS,
     said: (text) => ({ bytes: read(partsOf(text, addOn).main) + partsOf(text, addOn).extra }),
     saidByZbar: (text) => ({ bytes: read(partsOf(text, addOn).main) }),
+    // What a reader makes of the library's reading: the digits of the symbol, a space and the add-on.
+    promised: (reading) => read(reading.split(' ')[0]) + (reading.split(' ')[1] ?? ''),
   };
 }
 
-// said: what readers make of a text; checks: the schemes that may be asked for; usual: the longest of random texts.
+// said: what readers make of a text; promised: of the library's reading; checks: the schemes that may be asked for; usual: the longest of random texts.
 function ofText({ said = (text) => text, wrap = (text) => text, zbar = undefined, format, ...row }) {
   const saying = (text, job) => ({ bytes: said(text, job) });
-  return { ...row, wrap, format, zbar: zbar === undefined ? format : zbar, said: saying, saidByZbar: saying };
+  return { promised: (reading) => reading, ...row, wrap, format, zbar: zbar === undefined ? format : zbar, said: saying, saidByZbar: saying };
 }
 
 const first = (digits) => (main) => withCheck(main.slice(0, digits));
@@ -138,13 +141,14 @@ function saidOfCode128(text, job) {
 export const SYMBOLOGIES = [
   ofText({ number: 0, name: 'Codabar', draw: drawCodabar, alphabet: `${DIGITS}-$:/.+`, twoWidths: true, format: 'Codabar',
            checks: [CHECK.NONE, CHECK.MOD_16, CHECK.VERIFY], said: saidOfCodabar,
+           promised: (reading, job, said) => said[0] + reading + said.at(-1),  // without start and stop
            wrap: (text, texts) => texts.pick('ABCDTN*E') + text + texts.pick('ABCDTN*E') }),
   ofText({ number: 1, name: 'Code 39', draw: plain('code39', { [CHECK.NONE]: {}, [CHECK.MOD_43]: INCLUDE, [CHECK.VERIFY]: VALIDATE }),
            alphabet: NATIVE_39, twoWidths: true, format: 'Code39Std', zbar: 'Code39', checks: [CHECK.NONE, CHECK.MOD_43, CHECK.VERIFY],
            said: (text, job) => (job.check === CHECK.MOD_43 ? text + modulo43(text) : text) }),
   ofText({ number: 102, name: 'Code 39, full ASCII', draw: plain('code39ext', { [CHECK.NONE]: {}, [CHECK.MOD_43]: INCLUDE, [CHECK.VERIFY]: VALIDATE }),
            alphabet: bytes(0, 127), twoWidths: true, format: 'Code39', zbar: null, checks: [CHECK.NONE, CHECK.MOD_43, CHECK.VERIFY],
-           said: saidOf39Full }),
+           said: saidOf39Full, promised: (reading, job) => (hasCheck39(job) ? reading + modulo43(spellOut(reading)) : reading) }),
   ofText({ number: 2, name: 'Code 93', draw: plain('code93', { [CHECK.OWN]: INCLUDE }), alphabet: NATIVE_39, format: 'Code93' }),
   ofText({ number: 22, name: 'Code 93, full ASCII', draw: plain('code93ext', { [CHECK.OWN]: INCLUDE }), alphabet: bytes(0, 127),
            format: 'Code93' }),

@@ -154,7 +154,7 @@ TEST(EanUpcText, SixDigitsThatSuppressingDoesNotGiveAreRefusedWithTheRightOnes) 
   EXPECT_EQ(Read(kUpcE, "0122044"), "UPC-E form at 1, 120042") << "012 20000 004";
   EXPECT_EQ(Read(kUpcE, "0123409"), "UPC-E form at 1, 123494") << "012 34000 009";
   EXPECT_EQ(Read(kUpcE, "0000009"), "UPC-E form at 1, 90") << "000 009";
-  EXPECT_EQ(Read(kUpcE, "0122453", Permitted()), "UPC-E form at 1, 120452");
+  EXPECT_EQ(Read(kUpcE, "1122453", Permitted()), "UPC-E form at 1, 120452");
 }
 
 TEST(EanUpcText, NumberSystemOneOfUpcENeedsPermission) {
@@ -198,6 +198,22 @@ TEST(EanUpcText, AnAddonHasTwoOrFiveDigits) {
   EXPECT_EQ(Read(kEan13, "9501101530003+123456"), "add-on digits at 13, 6");
   EXPECT_EQ(Read(EanUpcSymbol::kEan13Addon2, "9501101530003+12345"), "add-on digits at 13, 5");
   EXPECT_EQ(Read(EanUpcSymbol::kEan13Addon5, "9501101530003+12"), "add-on digits at 13, 2");
+}
+
+std::int32_t ExtentOf(EanUpcSymbol asked, const std::string& text) {
+  Conformance how = Conformance::Published();
+  EanUpcDigits read = {};
+  return ReadEanUpcText(asked, {text.c_str(), text.size()}, CheckScheme::kOwn, how, read).extent;
+}
+
+TEST(EanUpcText, ARefusalReachesOverWhatIsWrong) {
+  EXPECT_EQ(ExtentOf(kEan13, "9501101530003+123"), 4);
+  EXPECT_EQ(ExtentOf(kEan8, "9638507+52495"), 6);
+  EXPECT_EQ(ExtentOf(EanUpcSymbol::kEan8Addon2, "9638507412"), 2);
+  EXPECT_EQ(ExtentOf(kUpcE, "012345678905"), 11);
+  EXPECT_EQ(ExtentOf(kUpcE, "122453"), 6);
+  EXPECT_EQ(ExtentOf(kUpcE, "04252615"), 1);
+  EXPECT_EQ(ExtentOf(kUpcE, "1425261"), 1);
 }
 
 TEST(EanUpcText, OneSignIsEnough) {
