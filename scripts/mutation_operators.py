@@ -150,6 +150,7 @@ EQUIVALENT = (
     ("Sentences.cpp", "dataCodewords < refusal", "dataCodewords <= refusal", "what holds exactly so many is the smallest, and taken"),
     ("ElementSentences.cpp", "length > lengths.longest", "length >= lengths.longest", "a value of all its parts is complete"),
     ("ElementSentences.cpp", "length < lengths.shortest", "length <= lengths.shortest", "a value that is as short as it may be is complete"),
+    ("LinearMark.cpp", "bytes[count] = '\\0'", "", "the reading is compared by its length"),
     ("LinearMark.cpp", "at < text.length", "at <= text.length", "the NUL is written over what stands behind the text"),
     ("Hatcher.cpp", "mostDoubles <= 0", "mostDoubles < 0", "a list of nothing makes no fill either"),
     ("LinePatterns.cpp", "strokes > kMostDoubles", "strokes >= kMostDoubles", "so many are refused with their coordinates"),
