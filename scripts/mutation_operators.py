@@ -140,6 +140,7 @@ EQUIVALENT = (
     ("JobRecord.cpp", "isNone = job.quiet < 0.0", "isNone = job.quiet <= 0.0", "0 asks for the standard's, which is never too small"),
     *(("LinearMark.cpp", "(letters + 1)", f"(letters {other})", "a character has many letters, and a NUL takes one byte")
       for other in ("- 1", "+ 0", "+ 2")),
+    ("MatrixMark.cpp", "dataCodewords) + 1", "dataCodewords) - 1", "a macro takes a codeword itself, which gives no two digits then"),
     *(("MatrixMark.cpp", before, after, "no codewords are read as more bytes than MostBytesRead says")
       for before, after in (("room - 1", "room + 1"), ("room - 1", "room - 0"), ("dataCodewords) + 1", "dataCodewords) + 2"))),
     *(("ResultBlock.cpp", before, after, "a machine of 32 bits alone has less room than the strokes of a mark may take")
