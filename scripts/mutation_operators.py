@@ -140,6 +140,7 @@ EQUIVALENT = (
     ("JobRecord.cpp", "isNone = job.quiet < 0.0", "isNone = job.quiet <= 0.0", "0 asks for the standard's, which is never too small"),
     *(("LinearMark.cpp", "(letters + 1)", f"(letters {other})", "a character has many letters, and a NUL takes one byte")
       for other in ("- 1", "+ 0", "+ 2")),
+    ("MatrixMark.cpp", "dataCodewords) + 1", "dataCodewords) - 1", "a macro takes a codeword itself, which gives no two digits then"),
     *(("MatrixMark.cpp", before, after, "no codewords are read as more bytes than MostBytesRead says")
       for before, after in (("room - 1", "room + 1"), ("room - 1", "room - 0"), ("dataCodewords) + 1", "dataCodewords) + 2"))),
     *(("ResultBlock.cpp", before, after, "a machine of 32 bits alone has less room than the strokes of a mark may take")
@@ -150,6 +151,8 @@ EQUIVALENT = (
     ("Sentences.cpp", "dataCodewords < refusal", "dataCodewords <= refusal", "what holds exactly so many is the smallest, and taken"),
     ("ElementSentences.cpp", "length > lengths.longest", "length >= lengths.longest", "a value of all its parts is complete"),
     ("ElementSentences.cpp", "length < lengths.shortest", "length <= lengths.shortest", "a value that is as short as it may be is complete"),
+    ("LinearMark.cpp", "bytes[count] = '\\0'", "", "the reading is compared by its length"),
+    ("LinearMark.cpp", "at < text.length", "at <= text.length", "the NUL is written over what stands behind the text"),
     ("Hatcher.cpp", "mostDoubles <= 0", "mostDoubles < 0", "a list of nothing makes no fill either"),
     ("LinePatterns.cpp", "strokes > kMostDoubles", "strokes >= kMostDoubles", "so many are refused with their coordinates"),
     ("SpiralPattern.cpp", "lower = lowEdge", "", "every bound is 0.0 from the start"),

@@ -36,8 +36,8 @@ Refusal NarrowUnits(const char16_t* units, std::size_t count, char* bytes, std::
 }
 
 void NarrowTokens(const TokenText& text, char* bytes) {
-  for (std::size_t i = 0; i < text.length; ++i) {
-    bytes[i] = IsByte(text.tokens[i]) ? static_cast<char>(text.tokens[i]) : kNoByte;
+  for (std::size_t at = 0; at < text.length; ++at) {
+    bytes[at] = IsByte(text.tokens[at]) ? static_cast<char>(text.tokens[at]) : kNoByte;
   }
   bytes[text.length] = '\0';
 }
@@ -63,14 +63,14 @@ Refusal CheckCode128(const TokenText& text, std::uint16_t accepted) {
 
 // What a reader reports of the text: FNC1 as GS, but not in first position; the others not at all.
 std::size_t ReadingOfCode128(const TokenText& text, char* bytes) {
-  std::size_t length = 0;
+  std::size_t count = 0;
   for (std::size_t i = 0; i < text.length; ++i) {
     const Token token = text.tokens[i];
-    if (IsByte(token)) bytes[length++] = static_cast<char>(token);
-    if (token == kFnc1Token && i > 0) bytes[length++] = kGs;
+    if (IsByte(token)) bytes[count++] = static_cast<char>(token);
+    if (token == kFnc1Token && i > 0) bytes[count++] = kGs;
   }
-  bytes[length] = '\0';
-  return length;
+  bytes[count] = '\0';
+  return count;
 }
 
 QuietSides QuietOf(const BarhatchJob& job, const QuietModules& standard) {

@@ -263,8 +263,6 @@ constexpr DeviceDrawings DrawingsOfTheDevice() {
 
 constexpr DeviceDrawings kDeviceDrawings = DrawingsOfTheDevice();
 
-SymbologyRows AllSymbologies() { return {kRows, kRows + kRowCount}; }
-
 const SymbologyRow* RowOf(std::int32_t symbology) {
   for (const SymbologyRow& row : kRows) {
     if (row.symbology == symbology) return &row;

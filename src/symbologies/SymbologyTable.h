@@ -38,16 +38,6 @@ struct SymbologyRow {
   CheckSchemes checks;     // that a mark by the book may ask for
 };
 
-// In the order of their numbers.
-struct SymbologyRows {
-  const SymbologyRow* first;
-  const SymbologyRow* last;  // behind the last one
-
-  const SymbologyRow* begin() const { return first; }
-  const SymbologyRow* end() const { return last; }
-};
-SymbologyRows AllSymbologies();
-
 // Null for a number that names no linear symbology.
 const SymbologyRow* RowOf(std::int32_t symbology);
 

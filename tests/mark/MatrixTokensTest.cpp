@@ -72,6 +72,18 @@ TEST(MatrixTokens, FunctionsThatAMatrixLacksAreRefused) {
   EXPECT_EQ(Escaped("^FNC3A").substr(0, 9), "4 at 1+5:");
 }
 
+// One that readers would take for the second, but that does not mean what stands in front of it.
+TEST(MatrixTokens, Fnc1InVainIsRefused) {
+  const std::string sentence = "FNC1 in second position stands behind a letter or two digits";
+  EXPECT_EQ(Escaped("-^FNC1A"), "7 at 2+5: " + sentence);
+  EXPECT_EQ(Escaped("1^FNC1A"), "7 at 2+5: " + sentence);
+  const std::string text = "^FNC1A";
+  BarhatchJob job = MatrixJob(BARHATCH_ESCAPED, text);
+  EXPECT_EQ(CodewordsOf(Mark(job)), "232 66");
+  job.envelope = BARHATCH_ENVELOPE_05;
+  EXPECT_EQ(CodewordsOf(Mark(job)), "7 at 1+5: " + sentence);
+}
+
 TEST(MatrixTokens, CharactersUpTo127HaveAByteUnderEveryEci) {
   const auto under20 = [](const std::string& text) {
     BarhatchJob job = MatrixJob(BARHATCH_UTF8, text);
