@@ -105,6 +105,7 @@ class Flag(IntFlag):
     MASK = 256
     ADD_START_STOP = 512
     READER_PROGRAMMING = 1024
+    BEARER_BARS = 2048
 
 
 class Pattern(IntEnum):

@@ -153,7 +153,10 @@ enum BarhatchFlag {
                                         codewords, enough for each; no modules, values, reading or strokes. A job of that
                                         size marks every one */
   BARHATCH_ADD_START_STOP = 512,     /* Codabar: A on both sides of a text that has neither start nor stop */
-  BARHATCH_READER_PROGRAMMING = 1024 /* Data Matrix: the text is for the reader's settings */
+  BARHATCH_READER_PROGRAMMING = 1024, /* Data Matrix: the text is for the reader's settings */
+  BARHATCH_BEARER_BARS = 2048        /* Interleaved 2 of 5, ITF-14: a bar of 5 modules below and one above, from end to end
+                                        of the quiet zones and touching the bars. symbol and total include them, height is
+                                        that of the bars between */
 };
 
 /* job.pattern: how the elements are filled */
@@ -209,7 +212,7 @@ typedef struct BarhatchJob {
   int32_t order;           /* BarhatchOrder */
   double x_dimension;      /* width of one module; set either this or width or, of a matrix, height */
   double width;            /* of the symbol */
-  double height;           /* of the bars, or of the matrix */
+  double height;           /* of the bars without bearer bars, or of the matrix */
   double ratio;            /* of a wide element to a narrow one, for symbologies of two widths; 0: 3.0 */
   double quiet;            /* of the quiet zone, in modules, fractions rounded up; 0 the standard's, below 0 none */
   double units_per_mm;     /* 0 in this version */

@@ -86,17 +86,18 @@ enum class Shape : std::int32_t {
 
 // Switches of a job.
 enum class Flag : std::uint32_t {
-  kQuietInside = BARHATCH_QUIET_INSIDE,             // sizes and origin include the quiet zone
-  kFnc1Second = BARHATCH_FNC1_SECOND,               // Data Matrix: FNC1 in second position
-  kGsSeparators = BARHATCH_GS_SEPARATORS,           // Data Matrix: FNC1 that separates as GS
-  kLooseEnd = BARHATCH_LOOSE_END,                   // Data Matrix: ends as readers take them
-  kIndustry144 = BARHATCH_INDUSTRY_144,             // 144 x 144 in the industry's order
-  kPermit = BARHATCH_PERMIT,                        // write what readers know beside the standard
-  kNoProof = BARHATCH_NO_PROOF,                     // the finished symbol is not decoded again
-  kMayGrow = BARHATCH_MAY_GROW,                     // a Data Matrix beyond rows x columns
-  kMask = BARHATCH_MASK,                            // Data Matrix: the size of many texts
-  kAddStartStop = BARHATCH_ADD_START_STOP,          // Codabar: A on both sides where there is none
-  kReaderProgramming = BARHATCH_READER_PROGRAMMING  // Data Matrix: settings of the reader
+  kQuietInside = BARHATCH_QUIET_INSIDE,              // sizes and origin include the quiet zone
+  kFnc1Second = BARHATCH_FNC1_SECOND,                // Data Matrix: FNC1 in second position
+  kGsSeparators = BARHATCH_GS_SEPARATORS,            // Data Matrix: FNC1 that separates as GS
+  kLooseEnd = BARHATCH_LOOSE_END,                    // Data Matrix: ends as readers take them
+  kIndustry144 = BARHATCH_INDUSTRY_144,              // 144 x 144 in the industry's order
+  kPermit = BARHATCH_PERMIT,                         // write what readers know beside the standard
+  kNoProof = BARHATCH_NO_PROOF,                      // the finished symbol is not decoded again
+  kMayGrow = BARHATCH_MAY_GROW,                      // a Data Matrix beyond rows x columns
+  kMask = BARHATCH_MASK,                             // Data Matrix: the size of many texts
+  kAddStartStop = BARHATCH_ADD_START_STOP,           // Codabar: A on both sides where there is none
+  kReaderProgramming = BARHATCH_READER_PROGRAMMING,  // Data Matrix: settings of the reader
+  kBearerBars = BARHATCH_BEARER_BARS                 // Interleaved 2 of 5, ITF-14: below and above
 };
 
 // How the elements are filled.

@@ -37,6 +37,20 @@ double LeftOf(const Drawing& drawing) {
   return drawing.marks.empty() ? 0.0 : std::max(left, 0.0);
 }
 
+// Bearer bars reach over a quiet zone around the symbol, which then is a part of the drawing.
+bool ReachOverQuietZone(const std::vector<Stroke>& marks) {
+  return std::any_of(marks.begin(), marks.end(),
+                     [](const Stroke& mark) { return std::min(mark.x0, mark.x1) < 0.0; });
+}
+
+void MakeRoomAround(double left, double right, Drawing& drawing) {
+  drawing.width += left + right;
+  for (Stroke& mark : drawing.marks) {
+    mark.x0 += left;
+    mark.x1 += left;
+  }
+}
+
 void Place(const Drawing& part, double x, double y, Drawing& sheet) {
   for (const Stroke& mark : part.marks) {
     sheet.marks.push_back({mark.x0 + x, mark.y0 + y, mark.x1 + x, mark.y1 + y});
@@ -57,6 +71,9 @@ Drawing DrawingOf(const barhatch::Result& result, std::string title) {
     drawing.marks.push_back({s.xa, s.ya, s.xb, s.yb});
   }
   for (const barhatch::Point& p : result.Points()) drawing.marks.push_back({p.x, p.y, p.x, p.y});
+  if (ReachOverQuietZone(drawing.marks)) {
+    MakeRoomAround(-result.total().left, result.total().right - result.symbol().right, drawing);
+  }
   return drawing;
 }
 

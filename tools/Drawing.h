@@ -34,7 +34,8 @@ struct Drawing {
   std::vector<Caption> captions;
 };
 
-// The drawing is as large as the symbol, with the quiet zone where that is a part of it.
+// The drawing is as large as the symbol, with the quiet zone where that is a part of it or bearer
+// bars reach over it.
 Drawing DrawingOf(const barhatch::Result& result, std::string title);
 
 // All drawings in rows of so many, from the top left corner, their titles as captions below them.

@@ -72,6 +72,8 @@ constexpr Flag kFlags[] = {
     {"-q,--quiet-zone", BARHATCH_QUIET_INSIDE, "the quiet zones are a part of the size"},
     {"--permit", BARHATCH_PERMIT, "write what readers know and the standard leaves out"},
     {"--start-stop", BARHATCH_ADD_START_STOP, "add start and stop to a Codabar that has none"},
+    {"--bearer-bars", BARHATCH_BEARER_BARS,
+     "bearer bars below and above an Interleaved 2 of 5 or ITF-14"},
     {"--expand", BARHATCH_MAY_GROW, "the Data Matrix may grow beyond --size"},
     {"--fnc1-second", BARHATCH_FNC1_SECOND, "FNC1 in second position of a Data Matrix"},
     {"--gs-separators", BARHATCH_GS_SEPARATORS, "separators of a Data Matrix are GS and not FNC1"},

@@ -29,8 +29,8 @@ std::string SizeFact(const Symbol& symbol) {
 std::string QuietZoneFact(const Symbol& symbol) {
   const barhatch::Rect inner = symbol.result.symbol();
   const barhatch::Rect outer = symbol.result.total();
-  const char* const where =
-      HasQuietZoneInside(symbol.request) ? "inside the size" : "around the symbol";
+  const bool isInside = symbol.drawing.width > inner.right - inner.left;
+  const char* const where = isInside ? "inside the size" : "around the symbol";
   return fmt::format("{:.6g} mm left, {:.6g} mm right, {}", inner.left - outer.left,
                      outer.right - inner.right, where);
 }

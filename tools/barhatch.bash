@@ -28,7 +28,7 @@ _barhatch() {
   esac
   if [[ $word == -* ]]; then
     COMPREPLY=($(compgen -W "-t --type -d --device -W --width -H --height -r --ratio -q --quiet-zone --permit --no-proof --gs1 --escapes --bytes
-      --codewords --check --start-stop --addon-gap --size --expand --shape --mask --envelope --eci --fnc1-second
+      --codewords --check --start-stop --bearer-bars --addon-gap --size --expand --shape --mask --envelope --eci --fnc1-second
       --gs-separators --part --part-id --reader-programming --loose-end --industry-144 --format -p --pattern
       -g --gap -i --invert --mark-speed --feed --jump-speed --travel-speed --dwell --power --laser -o --output --animate
       --dark-part --beam --margin --pixels-per-unit --batch --same-size --sheet --columns --explain --verify --list --table -Q --quiet

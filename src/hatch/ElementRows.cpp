@@ -20,6 +20,12 @@ ElementRows::ElementRows(const char* moduleString, const ElementSizes& sizes, Fi
       row_(memory, CountFilled(moduleString, filled)),
       right_(BuildRects(moduleString, sizes, filled, row_)) {}
 
+ElementRows::ElementRows(const char* moduleString, const ElementSizes& sizes, double bottom,
+                         FilledElements filled, const Memory& memory)
+    : ElementRows(moduleString, sizes, filled, memory) {
+  for (std::size_t i = 0; i < row_.Count(); ++i) row_[i].Offset(0.0, bottom);
+}
+
 ElementRows::ElementRows(const ModuleGrid& grid, FilledElements filled, const Memory& memory)
     : grid_(grid),
       filledLetter_(LetterOf(filled)),

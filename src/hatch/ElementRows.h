@@ -28,6 +28,10 @@ class ElementRows {
   ElementRows(const char* moduleString, const ElementSizes& sizes, FilledElements filled,
               const Memory& memory);
 
+  // The same with its lower side at y = bottom.
+  ElementRows(const char* moduleString, const ElementSizes& sizes, double bottom,
+              FilledElements filled, const Memory& memory);
+
   // A matrix. Its letters outlive the object. The columns lie at the same x in every row, so they
   // are added up once.
   ElementRows(const ModuleGrid& grid, FilledElements filled, const Memory& memory);

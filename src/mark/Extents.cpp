@@ -47,7 +47,8 @@ bool HasWideElements(const MarkedSymbol& symbol) {
 
 Extents ExtentsOf(const BarhatchJob& job, const MarkedSymbol& symbol) {
   const double module = ModuleSizeOf(job, symbol);
-  Extents extents = {module, RatioOf(job) * module, job.height, 0.0, 0.0};
+  const double bearer = HasBearerBars(job) ? kBearerModules * module : 0.0;
+  Extents extents = {module, RatioOf(job) * module, job.height, bearer, 0.0, 0.0};
   if (!IsQuietInside(job)) {
     extents.shiftX = -symbol.drawnQuiet.left * module;
     extents.shiftY = -symbol.drawnQuiet.below * module;
@@ -59,7 +60,8 @@ void DescribeExtents(const BarhatchJob& job, const MarkedSymbol& symbol, const E
                      BarhatchResult& result) {
   const double module = extents.moduleSize;
   const QuietSides& quiet = symbol.quiet;
-  const double height = IsMatrix(job) ? InnerRows(symbol) * module : job.height;
+  const double linearHeight = extents.bearer + job.height + extents.bearer;
+  const double height = IsMatrix(job) ? InnerRows(symbol) * module : linearHeight;
   result.x_dimension = module;
   result.narrowest =
       HasWideElements(symbol) && extents.wideSize < module ? extents.wideSize : module;

@@ -8,10 +8,16 @@
 
 namespace barhatch {
 
+// A bearer bar. GS1 General Specifications, 5.3.2: 2 modules and more, and 4.83 mm where a plate
+// prints it, 4.75 modules of the nominal 1.016 mm. These are 5, so that a gap that divides a module
+// divides a bearer bar as well.
+constexpr int kBearerModules = 5;
+
 struct Extents {
   double moduleSize;
   double wideSize;
-  double barHeight;  // of a linear symbol
+  double barHeight;  // of a linear symbol, without bearer bars
+  double bearer;     // height of a bearer bar; 0 where there is none
   double shiftX;     // of the drawn symbol, whose own origin is its lower-left corner
   double shiftY;     // 0 where shiftX is
 };

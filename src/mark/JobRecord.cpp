@@ -20,7 +20,7 @@ constexpr std::uint32_t kMatrixFlags = kDeviceMatrixFlags | BARHATCH_GS_SEPARATO
                                        BARHATCH_LOOSE_END | BARHATCH_INDUSTRY_144 | BARHATCH_MASK |
                                        BARHATCH_READER_PROGRAMMING;
 constexpr std::uint32_t kFlags = kMatrixFlags | BARHATCH_QUIET_INSIDE | BARHATCH_PERMIT |
-                                 BARHATCH_NO_PROOF | BARHATCH_ADD_START_STOP;
+                                 BARHATCH_NO_PROOF | BARHATCH_ADD_START_STOP | BARHATCH_BEARER_BARS;
 constexpr std::int32_t kEveryWant = 63;
 constexpr std::int32_t kMostShape = BARHATCH_RECTANGLE | BARHATCH_DMRE;
 constexpr std::int32_t kNoShape = 3;
@@ -269,6 +269,15 @@ std::int32_t CheckSchemeOf(const BarhatchJob& job, Message& message) {
   return Refuse(BARHATCH_BAD_OPTION, "ADD_START_STOP is for Codabar by the book", message);
 }
 
+std::int32_t CheckBearerBars(const BarhatchJob& job, Message& message) {
+  const bool isInPairs =
+      job.symbology == BARHATCH_INTERLEAVED_2_OF_5 || job.symbology == BARHATCH_ITF_14;
+  const bool mayHave = isInPairs && job.conformance == BARHATCH_PUBLISHED;
+  if (mayHave || !HasBearerBars(job)) return BARHATCH_OK;
+  return Refuse(BARHATCH_BAD_OPTION,
+                "BEARER_BARS are for Interleaved 2 of 5 and ITF-14 by the book", message);
+}
+
 // What is for a Data Matrix by the book alone.
 std::int32_t CheckForeign(const BarhatchJob& job, Message& message) {
   if (IsMatrix(job) && job.conformance == BARHATCH_PUBLISHED) return BARHATCH_OK;
@@ -378,6 +387,7 @@ std::int32_t CheckOptions(const BarhatchJob& job, Message message) {
   }
   if (status == BARHATCH_OK) status = CheckAddonGap(job, message);
   if (status == BARHATCH_OK) status = CheckSchemeOf(job, message);
+  if (status == BARHATCH_OK) status = CheckBearerBars(job, message);
   if (status == BARHATCH_OK) status = CheckForeign(job, message);
   if (status == BARHATCH_OK) status = CheckElements(job, message);
   if (status == BARHATCH_OK) status = CheckComing(job, kComingIntegers, message);
@@ -446,6 +456,8 @@ std::uint32_t SmallQuietZoneWarning(const BarhatchJob& job) {
 
 double RatioOf(const BarhatchJob& job) { return job.ratio != 0.0 ? job.ratio : kUsualRatio; }
 
+bool HasBearerBars(const BarhatchJob& job) { return (job.flags & BARHATCH_BEARER_BARS) != 0; }
+
 Header HeaderOf(const BarhatchJob& job) {
   if (job.envelope == 5) return Header::kMacro05;
   if (job.envelope == 6) return Header::kMacro06;
@@ -453,7 +465,7 @@ Header HeaderOf(const BarhatchJob& job) {
 }
 
 bool DrawsQuietZone(const BarhatchJob& job) {
-  return (job.flags & BARHATCH_QUIET_INSIDE) != 0 || job.invert != 0;
+  return (job.flags & BARHATCH_QUIET_INSIDE) != 0 || job.invert != 0 || HasBearerBars(job);
 }
 
 std::int32_t DrawnQuietModulesOf(const BarhatchJob& job) {

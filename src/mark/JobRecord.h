@@ -28,14 +28,15 @@ DeviationSet InForce(const BarhatchJob& job);
 LinearOptions LinearOptionsOf(const BarhatchJob& job);
 std::int32_t QuietModulesOf(const BarhatchJob& job);
 double RatioOf(const BarhatchJob& job);
+bool HasBearerBars(const BarhatchJob& job);
 Header HeaderOf(const BarhatchJob& job);
 Shape ShapeOf(const BarhatchJob& job);
 
 // What to warn of where the quiet zone is smaller than the standard's.
 std::uint32_t SmallQuietZoneWarning(const BarhatchJob& job);
 
-// True where the quiet zone is a part of the drawn symbol: it lies inside the size, or it is
-// marked.
+// True where the quiet zone is a part of the drawn symbol: it lies inside the size, it is marked,
+// or bearer bars reach over it.
 bool DrawsQuietZone(const BarhatchJob& job);
 
 // The modules of it, as QuietModulesOf; kNoQuietZone where it is none.

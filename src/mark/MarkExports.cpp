@@ -43,11 +43,15 @@ void SetPlace(const TextPlace& place, BarhatchResult& result) {
 }
 
 // Strokes a gap apart may miss an element that is narrower, and a spiral whose gap is more than
-// half of it leaves it. Horizontal strokes of a linear symbol go through all bars.
+// half of it leaves it. Horizontal strokes of a linear symbol go through all bars and may miss a
+// bearer bar alone.
 bool IsGapWide(const BarhatchJob& job, const BarhatchResult& result) {
   const bool isHorizontal =
       job.pattern == BARHATCH_SCAN_LINES || job.pattern == BARHATCH_ALTERNATING_HORIZONTAL;
-  if (job.pattern == BARHATCH_POINTS || (isHorizontal && !IsMatrix(job))) return false;
+  if (job.pattern == BARHATCH_POINTS) return false;
+  if (isHorizontal && !IsMatrix(job)) {
+    return HasBearerBars(job) && job.gap > kBearerModules * result.x_dimension;
+  }
   const double most = job.pattern == BARHATCH_SPIRAL ? result.narrowest / 2 : result.narrowest;
   return job.gap > most;
 }

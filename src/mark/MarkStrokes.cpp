@@ -3,11 +3,14 @@
 #include <limits>
 
 #include "hatch/StrokeLengths.h"
+#include "job/ModuleString.h"
 #include "mark/JobRecord.h"
 
 namespace barhatch {
 
 namespace {
+
+constexpr char kOneBar[] = {kNarrowBar, '\0'};
 
 Filling FillingOf(const BarhatchJob& job) {
   return {job.pattern, job.gap, job.invert != 0 ? FilledElements::kLight : FilledElements::kDark};
@@ -20,17 +23,32 @@ ElementRows RowsOf(const BarhatchJob& job, const MarkedSymbol& symbol, const Ext
                        symbol.memory);
   }
   return ElementRows(symbol.letters, {extents.moduleSize, extents.wideSize, extents.barHeight},
-                     filled, symbol.memory);
+                     extents.bearer, filled, symbol.memory);
 }
 
 }  // namespace
 
 MarkStrokes::MarkStrokes(const BarhatchJob& job, const MarkedSymbol& symbol, const Extents& extents)
-    : job_(job), extents_(extents), filling_(FillingOf(job)), rows_(RowsOf(job, symbol, extents)) {}
+    : job_(job),
+      extents_(extents),
+      filling_(FillingOf(job)),
+      rows_(RowsOf(job, symbol, extents)),
+      lowerBearer_(BearerAt(0.0, symbol.memory)),
+      upperBearer_(BearerAt(extents.bearer + extents.barHeight, symbol.memory)),
+      bands_{&lowerBearer_, &rows_, &upperBearer_} {}
+
+ElementRows MarkStrokes::BearerAt(double bottom, const Memory& memory) const {
+  const double width = rows_.Right();
+  return ElementRows(extents_.bearer != 0.0 ? kOneBar : "", {width, width, extents_.bearer}, bottom,
+                     filling_.filled, memory);
+}
 
 Refusal MarkStrokes::Count(std::size_t& doubles) {
-  if (rows_.HasFailed()) return {Reason::kNoMemory};
-  const DoubleCount most = MostDoubles(rows_, filling_);
+  DoubleCount most = 0;
+  for (ElementRows* const rows : bands_) {
+    if (rows->HasFailed()) return {Reason::kNoMemory};
+    most = AddCounts(most, MostDoubles(*rows, filling_));
+  }
   if (most == kUncountable) return {Reason::kTooManyStrokes};
   doubles = static_cast<std::size_t>(most);
   return {};
@@ -38,7 +56,7 @@ Refusal MarkStrokes::Count(std::size_t& doubles) {
 
 Refusal MarkStrokes::Write(double* room, std::size_t doubles, BarhatchResult& result) {
   CoordinateList coordinates(room, doubles);
-  Fill(rows_, filling_, coordinates);
+  for (ElementRows* const rows : bands_) Fill(*rows, filling_, coordinates);
   if (coordinates.Count() == 0) return {Reason::kNothingToMark};
   if (extents_.shiftX != 0.0) {
     Translate(room, coordinates.Count(), extents_.shiftX, extents_.shiftY);

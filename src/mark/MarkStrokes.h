@@ -25,12 +25,17 @@ class MarkStrokes {
   Refusal Write(double* room, std::size_t doubles, BarhatchResult& result);
 
  private:
+  // Of the symbol from end to end, its lower side at y = bottom.
+  ElementRows BearerAt(double bottom, const Memory& memory) const;
   void Describe(const double* strokes, std::size_t doubles, BarhatchResult& result) const;
 
   const BarhatchJob& job_;
   const Extents& extents_;
   const Filling filling_;
   ElementRows rows_;
+  ElementRows lowerBearer_;  // without elements where there is none
+  ElementRows upperBearer_;
+  ElementRows* const bands_[3];  // all three from the bottom
 };
 
 }  // namespace barhatch

@@ -56,6 +56,13 @@ TEST(ElementRows, OfALinearSymbolAreOne) {
   EXPECT_EQ(CornersOf(inverted.Row(0)), (std::vector<Corners>{{1, 0, 2, 4}, {4.5, 0, 5.5, 4}}));
 }
 
+TEST(ElementRows, OfALinearSymbolLieWhereTheyAreToBegin) {
+  ElementRows rows("AaBa", {1.0, 2.5, 4.0}, 3.0, FilledElements::kDark, RuntimeMemory());
+  EXPECT_EQ(rows.Rows(), 1);
+  EXPECT_EQ(rows.Right(), 5.5);
+  EXPECT_EQ(CornersOf(rows.Row(0)), (std::vector<Corners>{{0, 3, 1, 7}, {2, 3, 4.5, 7}}));
+}
+
 // A memory that gives so many blocks more.
 struct ShortMemory {
   int blocks;

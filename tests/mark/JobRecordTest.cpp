@@ -74,7 +74,7 @@ TEST(JobOptions, InputsThatAreNone) {
 }
 
 TEST(JobOptions, FlagsToCome) {
-  for (const std::uint32_t flag : {2048u, 0x80000000u}) {
+  for (const std::uint32_t flag : {4096u, 0x80000000u}) {
     EXPECT_EQ(Linear([&](BarhatchJob& job) { job.flags = flag; }),
               "2 a flag is set that this version does not have");
   }
