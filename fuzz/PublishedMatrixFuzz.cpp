@@ -135,7 +135,8 @@ void DemandCause(const MatrixRequest& request, const std::optional<Items>& items
   Demand(!isOption || request.hasOddOption, "options that there are");
   const bool isSize = result.status == BARHATCH_NO_SUCH_SIZE;
   Demand(!isSize || request.hasOddOption, "sizes that there are");
-  const bool isBeyondAll = items->size() > kMostDigits;
+  const bool isText = request.job.input != BARHATCH_CODEWORDS;
+  const bool isBeyondAll = isText && items->size() > kMostDigits;
   const bool isTooLong = result.status == (isBeyondAll ? BARHATCH_BAD_LENGTH : BARHATCH_TOO_LONG);
   Demand(isOption || isSize || isTooLong, "the text is sound");
   Demand(!isTooLong || !IsSurelyHeld(request.job, *items), "there is room for the text");
