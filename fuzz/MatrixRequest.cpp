@@ -32,7 +32,12 @@ struct Alphabet {
 };
 
 Character OfClass(int textClass, std::uint8_t byte) {
-  const std::string characters = test::CharactersOfClass(textClass);
+  static const std::vector<std::string> classes = [] {
+    std::vector<std::string> all;
+    for (int i = 0; i < test::kTextClassCount; ++i) all.push_back(test::CharactersOfClass(i));
+    return all;
+  }();
+  const std::string& characters = classes[static_cast<std::size_t>(textClass)];
   return static_cast<unsigned char>(characters[byte % characters.size()]);
 }
 

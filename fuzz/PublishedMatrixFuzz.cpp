@@ -125,6 +125,12 @@ bool IsSurelyHeld(const BarhatchJob& job, const Items& items) {
   return isSmallest && isLargeShape && IsOneRunOfBytes(items) && items.size() <= kSurelyHeld;
 }
 
+// Items, but for what is no text.
+std::size_t WithoutHead(const Items& items) {
+  const bool hasHead = !items.empty() && items[0] > test::kReadFnc1 && items[0] < test::ReadEci(0);
+  return items.size() - (hasHead ? 1 : 0);
+}
+
 void DemandCause(const MatrixRequest& request, const std::optional<Items>& items,
                  const BarhatchResult& result) {
   Demand(*result.message != '\0', "a refusal has a sentence");
@@ -135,7 +141,8 @@ void DemandCause(const MatrixRequest& request, const std::optional<Items>& items
   Demand(!isOption || request.hasOddOption, "options that there are");
   const bool isSize = result.status == BARHATCH_NO_SUCH_SIZE;
   Demand(!isSize || request.hasOddOption, "sizes that there are");
-  const bool isBeyondAll = items->size() > kMostDigits;
+  const bool isText = request.job.input != BARHATCH_CODEWORDS;
+  const bool isBeyondAll = isText && WithoutHead(*items) > kMostDigits;
   const bool isTooLong = result.status == (isBeyondAll ? BARHATCH_BAD_LENGTH : BARHATCH_TOO_LONG);
   Demand(isOption || isSize || isTooLong, "the text is sound");
   Demand(!isTooLong || !IsSurelyHeld(request.job, *items), "there is room for the text");
