@@ -27,6 +27,7 @@ EQUIVALENT = (
      "the names of $ / + % and start/stop are read by people alone: the signs are always written as pairs (D-93-1)"),
     ("Code93Characters.cpp", r"kCode93Characters row 4[3-6]", r"\((.)\) -> \(\1[^)]",
      "of the name of a shift character the sign alone is read"),
+    ("EanUpcText.cpp", r"kMainForms rows \d and \d", "change places", "a row is found by its symbol and its digits"),
     ("EncodationState.cpp", "kLatchCodewords row 0", "0 -> 1", "no mode has the number 0"),
     ("ApiTrace.cpp", "traceEnded", "false -> true", "it is read where there is a stream, and attaching one sets it"),
     ("LookAhead.cpp", "ChooseMode value", "false -> true", "it is read where a mode costs no more than ASCII, which writes it"),

@@ -122,6 +122,7 @@ Refusal PrepareMsi(const LinearOptions& options, PreparedText& text, Conformance
   if (refusal.IsRefused()) return refusal;
   text.encode = EncodeMsiDigits;
   text.isForPeople = true;
+  text.quiet = {kMsiQuietModules, kMsiQuietModules};
   if (options.check == CheckScheme::kVerify) return VerifyCheck(text);
   return AppendChecks(SchemeOf(options.check), text);
 }

@@ -28,6 +28,10 @@ constexpr char kMsiStart[] = "110";
 constexpr char kMsiStop[] = "1001";
 constexpr int kMsiDigitLetters = 12;
 
+// No standard says how wide the quiet zone is; by the book it is that of the other generators. The
+// device has 10.
+constexpr int kMsiQuietModules = 12;
+
 // The digit with these twelve letters, kNoRow for any others.
 int MsiDigit(const char* letters);
 

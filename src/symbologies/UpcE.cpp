@@ -72,13 +72,14 @@ void ExpandUpcE(const char* upcE, char* upcA) {
   *upcA = '\0';
 }
 
+// Of several last digits the lowest makes a suppressed form.
 bool SuppressUpcA(const char* upcA, char* upcE) {
   upcE[0] = upcA[0];
   for (char last = '0'; last <= '9'; ++last) {
     char number[kUpcADigits + 1];
     TakeSix(upcA, last, upcE + 1);
     ExpandUpcE(upcE, number);
-    if (BeginsWith(upcA, number) && IsSuppressedForm(upcE + 1)) return true;
+    if (BeginsWith(upcA, number)) return true;
   }
   return false;
 }

@@ -325,6 +325,8 @@ TEST(Refusals, SymbolsThatTheStandardLeavesOut) {
             "12 at 2+6: the six digits at 2 are no UPC-A number without its zeros: 120452 are");
   EXPECT_EQ(Published(10, "000009+12"),
             "12 at 1+6: the six digits at 1 are no UPC-A number without its zeros: 000090 are");
+  EXPECT_EQ(Published(10, "100003"),
+            "12 at 1+6: the six digits at 1 are no UPC-A number without its zeros: 100000 are");
   EXPECT_EQ(Published(20, "012304412345"),
             "12 at 2+6: the six digits at 2 are no UPC-A number without its zeros: 123043 are");
   EXPECT_EQ(Published(10, "012345678905"),
