@@ -12,11 +12,6 @@ namespace barhatch {
 // all bytes take the same.
 constexpr Token kAnyByteToken = 0x110010;
 
-constexpr bool IsDigitToken(Token token) { return token >= '0' && token <= '9'; }
-constexpr bool IsLetterToken(Token token) {
-  return (token >= 'A' && token <= 'Z') || (token >= 'a' && token <= 'z');
-}
-
 // What Base 256 takes: one codeword each.
 constexpr bool IsByteToken(Token token) { return IsByte(token) || token == kAnyByteToken; }
 

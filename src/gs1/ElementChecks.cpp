@@ -19,7 +19,6 @@ constexpr std::size_t kFewestPrefixDigits = 2;
 constexpr std::uint64_t kMostLatitude = 1800000000;  // 180 degrees from the pole
 constexpr std::uint64_t kMostLongitude = 3600000000;
 
-bool IsDigitToken(Token token) { return token >= '0' && token <= '9'; }
 int DigitOf(Token token) { return static_cast<int>(token - '0'); }
 
 // The number of a few digits.

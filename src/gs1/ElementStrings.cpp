@@ -10,7 +10,6 @@ namespace barhatch {
 
 namespace {
 
-bool IsDigitToken(Token token) { return token >= '0' && token <= '9'; }
 bool IsSeparator(Token token) { return token == kGroupSeparator || token == kFnc1Token; }
 
 // One element: where it was given and where it was written. Spans are tokens, from 0.

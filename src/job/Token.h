@@ -21,6 +21,10 @@ constexpr Token kFnc3Token = 0x110003;
 constexpr Token kFirstEciToken = 0x200000;  // and the number of the ECI
 constexpr std::int32_t kLastEci = 999999;
 
+constexpr bool IsDigitToken(Token token) { return token >= '0' && token <= '9'; }
+constexpr bool IsLetterToken(Token token) {
+  return (token >= 'A' && token <= 'Z') || (token >= 'a' && token <= 'z');
+}
 constexpr bool IsByte(Token token) { return token < 256; }
 constexpr bool IsCharacter(Token token) { return token < kTokensOfCharacters; }
 constexpr bool IsEci(Token token) { return token >= kFirstEciToken; }

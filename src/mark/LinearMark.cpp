@@ -1,6 +1,7 @@
 // The linear half of a mark: text to a module string, the module string read back.
 #include <cstring>
 
+#include "job/CharacterClasses.h"
 #include "mark/JobRecord.h"
 #include "mark/Mark.h"
 #include "mark/MarkedSymbol.h"
@@ -61,13 +62,25 @@ Refusal CheckCode128(const TokenText& text, std::uint16_t accepted) {
   return {};
 }
 
-// What a reader reports of the text: FNC1 as GS, but not in first position; the others not at all.
-std::size_t ReadingOfCode128(const TokenText& text, char* bytes) {
+// What FNC1 in second position stands behind: a letter, or a pair of digits of set C, with which a
+// symbol begins that may.
+bool IsInFrontOfFnc1(const BarhatchJob& job, const Characters& text) {
+  const char first = *text.text;
+  if (text.length == 1) return IsAsciiUpper(first) || IsAsciiLower(first);
+  const bool mayBeginInC =
+      job.symbology == BARHATCH_CODE_128 || job.symbology == BARHATCH_CODE_128_C;
+  return text.length == 2 && mayBeginInC && IsDigit(first) && IsDigit(text.text[1]);
+}
+
+// What a reader reports of the text: FNC1 as GS, but not in first or second position; the others
+// not at all.
+std::size_t ReadingOfCode128(const BarhatchJob& job, const TokenText& text, char* bytes) {
   std::size_t count = 0;
   for (std::size_t i = 0; i < text.length; ++i) {
     const Token token = text.tokens[i];
+    const bool isSecond = i > 0 && i == count && IsInFrontOfFnc1(job, {bytes, count});
     if (IsByte(token)) bytes[count++] = static_cast<char>(token);
-    if (token == kFnc1Token && i > 0) bytes[count++] = kGs;
+    if (token == kFnc1Token && i > 0 && !isSecond) bytes[count++] = kGs;
   }
   bytes[count] = '\0';
   return count;
@@ -161,7 +174,7 @@ Refusal MakeCode128(const BarhatchJob& job, const TokenText& text, char* room,
   LinearSymbol drawn;
   const Refusal refusal = DrawCode128(row, DrawnQuietModulesOf(job), text, symbol.memory, drawn);
   if (refusal.IsRefused()) return refusal;
-  return Finish(job, drawn, GivenText(row, room, ReadingOfCode128(text, room)), {}, symbol);
+  return Finish(job, drawn, GivenText(row, room, ReadingOfCode128(job, text, room)), {}, symbol);
 }
 
 Refusal MakeOfTokens(const BarhatchJob& job, const TokenText& text, Conformance& how,

@@ -1,3 +1,4 @@
+#include "job/CharacterClasses.h"
 #include "symbologies/Code128Patterns.h"
 #include "symbologies/FamilyReaders.h"
 #include "symbologies/PatternRows.h"
@@ -32,7 +33,7 @@ class Code128Text {
     const bool isShifted = isShifted_;
     isShifted_ = false;
     if (value == kCode128Fnc1) {
-      if (position > 1) AddText(reading_, kGs);
+      TakeFnc1(position);
       return true;
     }
     if (value > kCode128Fnc1) return false;
@@ -47,6 +48,20 @@ class Code128Text {
  private:
   CodeSet Other() const { return set_ == CodeSet::kA ? CodeSet::kB : CodeSet::kA; }
 
+  // In first position, and in second behind a letter or a pair of digits, FNC1 says what the text
+  // is and is no part of it.
+  void TakeFnc1(std::size_t position) {
+    const bool isBehindPair = position == 2 && set_ == CodeSet::kC;
+    const bool isSecond = !hasFunction_ && (isBehindPair || IsBehindLetter());
+    if (position > 1 && !isSecond) AddText(reading_, kGs);
+    hasFunction_ = true;
+  }
+
+  bool IsBehindLetter() const {
+    const char first = *reading_.text;
+    return reading_.textLength == 1 && (IsAsciiUpper(first) || IsAsciiLower(first));
+  }
+
   void TakeInSetC(int value) {
     if (value < kPairValues) {
       AddText(reading_, '0' + value / 10);
@@ -59,6 +74,8 @@ class Code128Text {
   void TakeInSet(CodeSet set, int value) {
     if (value < kCharacterValues) {
       AddCharacter(set, value);
+    } else if (value < kCode128Shift) {
+      hasFunction_ = true;
     } else if (value == kCode128Shift) {
       isShifted_ = true;
     } else if (value == kCode128SwitchToC) {
@@ -93,6 +110,7 @@ class Code128Text {
   CodeSet set_;
   SymbolReading& reading_;
   bool isShifted_ = false;
+  bool hasFunction_ = false;
   bool isExtended_ = false;
   bool isNextOther_ = false;  // extended where the others are not, and the reverse
 };

@@ -38,7 +38,6 @@ bool IsInSet(int set, Token byte) {
 }
 
 int DigitOf(Token token) { return static_cast<int>(token) - '0'; }
-bool IsDigitToken(Token token) { return token >= '0' && token <= '9'; }
 
 bool IsPair(const TokenText& text, std::size_t at) {
   return at + 1 < text.length && IsDigitToken(text.tokens[at]) && IsDigitToken(text.tokens[at + 1]);
@@ -117,6 +116,7 @@ class ShortestWalk {
     if (start_ == Code128Start::kA) return WayOf(kA, false);
     if (start_ == Code128Start::kB) return WayOf(kB, false);
     if (start_ == Code128Start::kPair) return WayOf(BeginsWithPair() ? kC : kB, false);
+    if (BeginsWithPairAndFnc1()) return WayOf(kC, false);
     int best = kB;
     for (const int set : kSetsByPreference) {
       if (costs_[0].of[set] < costs_[0].of[best]) best = set;
@@ -126,6 +126,11 @@ class ShortestWalk {
 
   // FNC1 in front says what the text is; set C has it too.
   bool BeginsWithPair() const { return IsPair(text_, text_.tokens[0] == kFnc1Token ? 1 : 0); }
+
+  // A pair of digits is in set C where FNC1 in second position stands behind it. No way is shorter.
+  bool BeginsWithPairAndFnc1() const {
+    return IsPair(text_, 0) && text_.length > 2 && text_.tokens[2] == kFnc1Token;
+  }
 
   void Put(int value) { *next_++ = static_cast<std::uint8_t>(value); }
 

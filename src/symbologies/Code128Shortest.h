@@ -8,7 +8,8 @@
 //
 // Bytes of 128 and above are written with FNC4, singly or latched by two of them. FNC1 is one value
 // in every set, FNC2 and FNC3 in A and B. Where two ways cost the same, no switch is made before it
-// has to be; a start is B before A before C.
+// has to be; a start is B before A before C. But two digits with FNC1 behind them begin in C, where
+// it may be: readers take it for FNC1 in second position there alone.
 #ifndef BARHATCH_SYMBOLOGIES_CODE128SHORTEST_H
 #define BARHATCH_SYMBOLOGIES_CODE128SHORTEST_H
 

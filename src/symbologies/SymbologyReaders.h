@@ -13,8 +13,10 @@
 //   Code 39             as it stands, full ASCII unresolved    0 to 42 of the modulo-43 scheme
 //   Code 93             full ASCII, without C and K            0 to 46, with C and K
 //   Code 128            all code sets; FNC1 as GS (29), but    start to check character
-//                       not in first position; FNC4 as bytes
-//                       from 128 on; FNC2 and FNC3 left out
+//                       not in first position, nor in
+//                       second behind a letter or a pair of
+//                       set C; FNC4 as bytes from 128 on; FNC2
+//                       and FNC3 left out
 //   Code 11             without C and K                        0 to 10, with C and K
 //   MSI                 without the check digit                digits, with the check digit
 //   Interleaved 2 of 5  all digits, a leading 0 as drawn       the same digits

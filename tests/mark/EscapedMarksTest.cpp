@@ -54,6 +54,23 @@ TEST(EscapedMarks, OfCode128HaveFunctionCharacters) {
   }
 }
 
+// ISO/IEC 15417: behind one letter or a pair of set C FNC1 says what the text is, and readers
+// report ]C2 instead.
+TEST(EscapedMarks, OfCode128HaveFnc1InSecondPositionThatIsNoSeparator) {
+  const auto readingOf = [](std::int32_t symbology, const char* text) {
+    return Mark(EscapedJob(symbology, text)).Reading();
+  };
+  EXPECT_EQ(readingOf(BARHATCH_CODE_128, "A^FNC1-^FNC1+"), "A-\x1D+");
+  EXPECT_EQ(readingOf(BARHATCH_CODE_128, "z^FNC1^FNC1"), "z\x1D");
+  EXPECT_EQ(readingOf(BARHATCH_CODE_128_C, "99^FNC112"), "9912");
+  EXPECT_EQ(readingOf(BARHATCH_CODE_128, "05^FNC1^001"), "05\x01");
+  EXPECT_EQ(readingOf(BARHATCH_CODE_128_B, "05^FNC1-"), "05\x1D-") << "two characters of set B";
+  EXPECT_EQ(readingOf(BARHATCH_CODE_128, "9^FNC1-"), "9\x1D-");
+  EXPECT_EQ(readingOf(BARHATCH_CODE_128, "-^FNC1+"), "-\x1D+");
+  EXPECT_EQ(readingOf(BARHATCH_CODE_128, "AZ^FNC1-"), "AZ\x1D-");
+  EXPECT_EQ(readingOf(BARHATCH_CODE_128, "A^FNC3^FNC1-"), "A\x1D-");
+}
+
 TEST(EscapedMarks, OfCode128BeginInTheSetAskedFor) {
   EXPECT_EQ(ValuesOf(Mark(EscapedJob(BARHATCH_CODE_128_C, "^FNC112"))), WithCheck({105, 102, 12}));
   EXPECT_EQ(Mark(EscapedJob(BARHATCH_CODE_128_A, "^FNC112"))->values[0], 103);

@@ -88,6 +88,13 @@ std::optional<std::string> DataOf(Set set, int value) {
   return std::string(1, static_cast<char>(isControl ? value - 64 : value + 32));
 }
 
+std::optional<int> FunctionOf(Set set, int value) {
+  if (value == 102) return kCode128Fnc1;
+  if (value == 97 && set != Set::kC) return kCode128Fnc2;
+  if (value == 96 && set != Set::kC) return kCode128Fnc3;
+  return std::nullopt;
+}
+
 // A value that stands for something else than data or a switch.
 bool IsShift(Set set, int value) { return value == 98 && set != Set::kC; }
 bool IsFnc4(Set set, int value) {
@@ -108,14 +115,18 @@ class TextReader {
     }
     if (const std::optional<Set> next = SetAfter(set_, value)) {
       set_ = *next;
-      return !isShifted_ && !hasFnc4_;
+      return IsComplete();
+    }
+    if (const std::optional<int> function = FunctionOf(set_, value)) {
+      items_.push_back(*function);
+      return IsComplete();
     }
     return TakeData(value);
   }
 
   // Behind a shift or an FNC4 something has to follow.
   bool IsComplete() const { return !isShifted_ && !hasFnc4_; }
-  const std::string& Text() const { return text_; }
+  const std::vector<int>& Items() const { return items_; }
 
  private:
   bool TakeFnc4() {
@@ -130,7 +141,7 @@ class TextReader {
     const std::optional<std::string> data = DataOf(isShifted_ ? other : set_, value);
     if (!data) return false;
     const bool isHigh = set_ != Set::kC && isLatched_ != hasFnc4_;
-    for (const char c : *data) text_ += static_cast<char>(isHigh ? c + 128 : c);
+    for (const char c : *data) items_.push_back(isHigh ? c + 128 : c);
     isShifted_ = false;
     hasFnc4_ = false;
     return true;
@@ -140,17 +151,17 @@ class TextReader {
   bool isShifted_ = false;
   bool hasFnc4_ = false;  // for the next character alone
   bool isLatched_ = false;
-  std::string text_;
+  std::vector<int> items_;
 };
 
-std::optional<std::string> ReadText(const std::vector<int>& values) {
+std::optional<std::vector<int>> ReadItems(const std::vector<int>& values) {
   if (values.front() < 103 || values.front() > 105) return std::nullopt;
   TextReader reader(values.front() == 103 ? Set::kA : values.front() == 104 ? Set::kB : Set::kC);
   for (std::size_t i = 1; i + 1 < values.size(); ++i) {
     if (!reader.Take(values[i])) return std::nullopt;
   }
   if (!reader.IsComplete()) return std::nullopt;
-  return reader.Text();
+  return reader.Items();
 }
 
 }  // namespace
@@ -160,13 +171,24 @@ std::string Code128Letters(int value) {
                                     kCharacterModules));
 }
 
-std::optional<Code128Reading> ReadCode128(const std::string& moduleString) {
+std::optional<Code128Message> ReadCode128Message(const std::string& moduleString) {
   if (moduleString.find_first_not_of("Aa") != std::string::npos) return std::nullopt;
   const std::optional<std::vector<int>> values = ReadValues(WithoutQuietZones(moduleString));
   if (!values || values->size() < 2 || !CheckIsRight(*values)) return std::nullopt;
-  const std::optional<std::string> text = ReadText(*values);
-  if (!text) return std::nullopt;
-  return Code128Reading{*values, *text};
+  const std::optional<std::vector<int>> items = ReadItems(*values);
+  if (!items) return std::nullopt;
+  return Code128Message{*values, *items};
+}
+
+std::optional<Code128Reading> ReadCode128(const std::string& moduleString) {
+  const std::optional<Code128Message> message = ReadCode128Message(moduleString);
+  if (!message) return std::nullopt;
+  std::string text;
+  for (const int item : message->items) {
+    if (item > 255) return std::nullopt;
+    text += static_cast<char>(item);
+  }
+  return Code128Reading{message->values, text};
 }
 
 }  // namespace barhatch::test
