@@ -269,13 +269,16 @@ bool IsFnc1Misplaced(const Items& items, const BarhatchJob& job) {
   return items.size() > 1 && items[1] == test::kReadFnc1 && MarkOf(items) < 2 && isOneCodeword;
 }
 
+// Head of ISO/IEC 15434 for the formats without a macro header.
 const char* SpelledHeadOf(std::int32_t envelope) {
-  if (envelope == BARHATCH_ENVELOPE_12)
-    return "[)>\x1E"
-           "12\x1D";
-  return envelope == BARHATCH_ENVELOPE_DD ? "[)>\x1E"
-                                            "DD\x1D"
-                                          : nullptr;
+  constexpr const char* kFormat12 =
+      "[)>\x1E"
+      "12\x1D";
+  constexpr const char* kFormatDd =
+      "[)>\x1E"
+      "DD\x1D";
+  if (envelope == BARHATCH_ENVELOPE_12) return kFormat12;
+  return envelope == BARHATCH_ENVELOPE_DD ? kFormatDd : nullptr;
 }
 
 void PrependHead(const BarhatchJob& job, Items& items) {
