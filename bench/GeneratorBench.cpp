@@ -225,8 +225,7 @@ int32_t MarkByTheBook(const BarhatchJob& job) {
   return result.status;
 }
 
-// times: proven, unproven, by libzint's minimal and fast encodation. The ratios are of the unproven
-// mark to either, and of the proven mark to it.
+// times: proven, unproven, by libzint's minimal and fast encodation.
 void PrintBookRow(const char* name, const std::vector<double>& times) {
   std::printf("%-32s %10.0f %10.0f %10.0f %10.0f %8.2f %8.2f %8.2f\n", name, times[0], times[1],
               times[2], times[3], times[1] / times[2], times[1] / times[3], times[0] / times[1]);

@@ -62,7 +62,8 @@ std::size_t DigitsOf(int firstTwo) {
   const auto isBetween = [firstTwo](int first, int last) {
     return firstTwo >= first && firstTwo <= last;
   };
-  if (isBetween(0, 4) || isBetween(10, 22) || firstTwo == 30 || firstTwo == 37 || isBetween(90, 99)) return 2;
+  if (isBetween(0, 4) || isBetween(10, 22) || firstTwo == 30 || firstTwo == 37 || isBetween(90, 99))
+    return 2;
   if (isBetween(23, 25) || isBetween(40, 42) || firstTwo == 71) return 3;
   const bool isFour = isBetween(31, 36) || firstTwo == 39 || firstTwo == 43 || firstTwo == 70 ||
                       firstTwo == 72 || isBetween(80, 82);

@@ -25,11 +25,26 @@ struct MatrixRequest {
   bool hasOddOption = false;          // numbers or combinations that may be refused
 };
 
+// Behind the options the text takes the rest of the input.
 MatrixRequest ReadMatrixRequest(FuzzInput& input);
 
 // What tests/support/DataMatrixReader.h reports of the symbol; nothing for a text that is to be
 // refused: FNC1 where it has no place, characters that are no bytes under their ECI.
 std::optional<std::vector<int>> ItemsAskedFor(const MatrixRequest& request);
+
+// Behind the bytes, or the items, the bytes of a code point.
+template <typename Bytes>
+void AppendUtf8(Character code, Bytes& bytes) {
+  const auto put = [&](Character byte) {
+    bytes.push_back(static_cast<typename Bytes::value_type>(byte));
+  };
+  const auto follow = [&](int shift) { put(0x80 | (code >> shift & 0x3F)); };
+  if (code < 0x80) return put(code);
+  put(code < 0x800 ? 0xC0 | code >> 6 : code < 0x10000 ? 0xE0 | code >> 12 : 0xF0 | code >> 18);
+  if (code >= 0x10000) follow(12);
+  if (code >= 0x800) follow(6);
+  follow(0);
+}
 
 }  // namespace barhatch::fuzz
 

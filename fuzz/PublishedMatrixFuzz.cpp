@@ -122,7 +122,8 @@ void DemandText(const Items& items, const BarhatchResult& result) {
 bool IsSurelyHeld(const BarhatchJob& job, const Items& items) {
   const bool isSmallest = job.rows == 0 && job.columns == 0;
   const bool isLargeShape = job.shape != BARHATCH_RECTANGLE && job.shape != BARHATCH_DMRE_RECTANGLE;
-  return isSmallest && isLargeShape && IsOneRunOfBytes(items) && items.size() <= kSurelyHeld;
+  return isSmallest && isLargeShape && IsOneRunOfBytes(items) &&
+         Base256CodewordsOf(items) <= kMostCodewords;
 }
 
 // Items, but for what is no text.
