@@ -26,7 +26,7 @@ namespace test = barhatch::test;
 
 constexpr std::size_t kMostBytes = std::size_t{4} << 20;
 constexpr std::size_t kMostDigits = 3116;  // of a symbol, which holds no more of anything else
-constexpr int kSurelyHeld = 1500;          // bytes, with any head, in Base 256 in 144 x 144
+constexpr std::size_t kMostCodewords = 1558;
 constexpr int kLargest = 144;
 
 using Items = std::vector<int>;
@@ -122,7 +122,8 @@ void DemandText(const Items& items, const BarhatchResult& result) {
 bool IsSurelyHeld(const BarhatchJob& job, const Items& items) {
   const bool isSmallest = job.rows == 0 && job.columns == 0;
   const bool isLargeShape = job.shape != BARHATCH_RECTANGLE && job.shape != BARHATCH_DMRE_RECTANGLE;
-  return isSmallest && isLargeShape && IsOneRunOfBytes(items) && items.size() <= kSurelyHeld;
+  return isSmallest && isLargeShape && IsOneRunOfBytes(items) &&
+         Base256CodewordsOf(items) <= kMostCodewords;
 }
 
 // Items, but for what is no text.
