@@ -26,7 +26,7 @@ namespace test = barhatch::test;
 
 constexpr std::size_t kMostBytes = std::size_t{4} << 20;
 constexpr std::size_t kMostDigits = 3116;  // of a symbol, which holds no more of anything else
-constexpr int kSurelyHeld = 1500;          // bytes, with any head, in Base 256 in 144 x 144
+constexpr std::size_t kMostCodewords = 1558;
 constexpr int kLargest = 144;
 
 using Items = std::vector<int>;
