@@ -41,6 +41,7 @@ void ReplaceAll(std::string& text, const std::string& what, const std::string& b
 
 std::vector<std::string> TextsOf(const std::vector<BatchLine>& lines) {
   std::vector<std::string> texts;
+  texts.reserve(lines.size());
   for (const BatchLine& line : lines) texts.push_back(line.text);
   return texts;
 }

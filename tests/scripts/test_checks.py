@@ -221,7 +221,7 @@ class Functions(Copy):
         self.expect("check-functions", "61 lines")
 
     def test_many_of_ten_lines(self):
-        self.add("".join(f"void F{i}(int a) {{\n" + "  ++a;\n" * 8 + "}\n" for i in range(600)))
+        self.add("".join(f"void F{i}(int a) {{\n" + "  ++a;\n" * 8 + "}\n" for i in range(3000)))
         self.expect("check-functions", "a median of 10 lines")
 
 
