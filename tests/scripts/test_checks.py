@@ -221,7 +221,10 @@ class Functions(Copy):
         self.expect("check-functions", "61 lines")
 
     def test_many_of_ten_lines(self):
-        self.add("".join(f"void F{i}(int a) {{\n" + "  ++a;\n" * 8 + "}\n" for i in range(3000)))
+        for path in (self.root / "src").rglob("*.cpp"):
+            if path != self.root / self.NAME:
+                path.unlink()
+        self.add("".join(f"void F{i}(int a) {{\n" + "  ++a;\n" * 8 + "}\n" for i in range(600)))
         self.expect("check-functions", "a median of 10 lines")
 
 
