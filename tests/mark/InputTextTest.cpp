@@ -226,7 +226,8 @@ TEST(InputText, ReadsNothingBehindItsLength) {
 }
 
 TEST(InputText, PlacesCountBytes) {
-  const InputText text = Utf8("A\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80Z");
+  const std::string bytes = "A\xC3\xA9\xE2\x82\xAC\xF0\x9F\x98\x80Z";
+  const InputText text = Utf8(bytes);
   EXPECT_EQ(PlaceOf(text, 0), "0+1");
   EXPECT_EQ(PlaceOf(text, 1), "1+2");
   EXPECT_EQ(PlaceOf(text, 2), "3+3");
