@@ -426,11 +426,12 @@ TEST(PublishedMatrix, LongTextsAreMarkedOrRefused) {
 }
 
 TEST(PublishedMatrix, NoMemoryIsAStatusAndNothingLeaks) {
+  const std::string text = "ABC-123456";
   for (const std::uint32_t flags : {0u, std::uint32_t{BARHATCH_MASK}}) {
     std::size_t failAt = 1;
     for (;; ++failAt) {
       HostMemory memory(failAt);
-      BarhatchJob job = PublishedMatrix("ABC-123456", Flags(flags));
+      BarhatchJob job = PublishedMatrix(text, Flags(flags));
       {
         const Mark mark(memory.Serve(job));
         if (mark.IsOk()) break;
