@@ -7,33 +7,18 @@
 #include <string>
 
 #include "barhatch_mark.h"
+#include "support/GeneratorModules.h"
 #include "support/SeededTexts.h"
 #include "symbologies/DrawnSymbol.h"
 
 namespace barhatch {
 namespace {
 
+using test::ModulesOfTheGenerator;
 using test::SeededTexts;
 
 const std::string kDigits = "0123456789";
 const std::string kCode39Set = kDigits + "ABCDEFGHIJKLMNOPQRSTUVWXYZ-. $/+%";
-
-// The generator's modules as '1' and '0'; its error text when it refuses.
-std::string ModulesOfTheGenerator(int symbology, int option, const std::string& text) {
-  const std::unique_ptr<zint_symbol, void (*)(zint_symbol*)> symbol(ZBarcode_Create(),
-                                                                    ZBarcode_Delete);
-  symbol->symbology = symbology;
-  symbol->option_2 = option;
-  const auto* bytes = reinterpret_cast<const unsigned char*>(text.data());
-  if (ZBarcode_Encode(symbol.get(), bytes, static_cast<int>(text.size())) >= ZINT_ERROR) {
-    return symbol->errtxt;
-  }
-  std::string modules;
-  for (int x = 0; x < symbol->width; ++x) {
-    modules += ((symbol->encoded_data[0][x / 8] >> (x % 8)) & 1) != 0 ? '1' : '0';
-  }
-  return modules;
-}
 
 // What the generator does otherwise, and how its symbol becomes ours.
 enum class Difference {
