@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "ReadTally.h"
+#include "ResultPicture.h"
 #include "barhatch_mark.h"
 #include "support/EanUpcReader.h"
 #include "support/Raster.h"
@@ -71,22 +72,6 @@ BarhatchJob JobOf(const Kind& kind, const Wanted& wanted, std::int32_t gap) {
   return job;
 }
 
-// The part with the quiet zone of the result around the symbol, and nothing beside it.
-Raster PictureOf(const BarhatchResult& result) {
-  std::vector<double> strokes(result.strokes, result.strokes + 4 * result.strokes_count);
-  FillBufferInfo fill = {};
-  fill.BufferLength = static_cast<std::int32_t>(strokes.size());
-  fill.FilledArray = strokes.data();
-  MarkParameters parameters;
-  parameters.left = result.total[0];
-  parameters.bottom = result.total[1];
-  parameters.width = result.total[2] - result.total[0];
-  parameters.height = kHeight;
-  parameters.pixelsPerUnit = 4.0;
-  parameters.beamWidth = kGap;
-  return MarkStrokes(fill, parameters);
-}
-
 // zxing-cpp looks for an add-on no further behind the symbol.
 constexpr std::int32_t kMostGapOfZxing = 10;
 
@@ -116,7 +101,7 @@ TEST_P(EanUpcReadBack, EveryFormOfTheTextAndEveryGap) {
     ASSERT_EQ(BarhatchMark(&job, &result), BARHATCH_OK) << wanted.text << ": " << result.message;
     EXPECT_EQ(result.warnings, 0u) << wanted.text << ": " << result.message;
     EXPECT_EQ(result.hri, wanted.digits + (wanted.addon.empty() ? "" : " " + wanted.addon));
-    const Raster picture = PictureOf(result);
+    const Raster picture = PictureOf(result, kGap);
     ExpectRead(Reader::kZbar, kind, wanted, picture, tally);
     if (wanted.addon.empty() || gap <= kMostGapOfZxing) {
       ExpectRead(Reader::kZxing, kind, wanted, picture, tally);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "ReadTally.h"
+#include "ResultPicture.h"
 #include "barhatch_mark.h"
 #include "support/Raster.h"
 #include "support/ReaderOracle.h"
@@ -106,21 +107,6 @@ BarhatchJob JobOf(std::int32_t symbology, const std::string& text) {
   return job;
 }
 
-Raster PictureOf(const BarhatchResult& result) {
-  std::vector<double> strokes(result.strokes, result.strokes + 4 * result.strokes_count);
-  FillBufferInfo fill = {};
-  fill.BufferLength = static_cast<std::int32_t>(strokes.size());
-  fill.FilledArray = strokes.data();
-  MarkParameters parameters;
-  parameters.left = result.total[0];
-  parameters.bottom = result.total[1];
-  parameters.width = result.total[2] - result.total[0];
-  parameters.height = result.total[3] - result.total[1];
-  parameters.pixelsPerUnit = 4.0;
-  parameters.beamWidth = kGap;
-  return MarkStrokes(fill, parameters);
-}
-
 void ExpectRead(std::int32_t symbology, const Message& message, ReadTally& tally) {
   const BarhatchJob job = JobOf(symbology, message.given);
   BarhatchResult result = {};
@@ -129,8 +115,8 @@ void ExpectRead(std::int32_t symbology, const Message& message, ReadTally& tally
   EXPECT_EQ(std::string(result.reading, result.reading_length), message.data) << message.given;
   EXPECT_STREQ(result.hri, message.people.c_str());
   const bool isMatrix = symbology == BARHATCH_DATA_MATRIX;
-  const auto read =
-      Read(Reader::kZxing, PictureOf(result), isMatrix ? Format::kDataMatrix : Format::kCode128);
+  const auto read = Read(Reader::kZxing, PictureOf(result, kGap),
+                         isMatrix ? Format::kDataMatrix : Format::kCode128);
   BarhatchRelease(&result);
   ASSERT_TRUE(read) << message.given;
   EXPECT_EQ(read->text, message.data) << message.given;

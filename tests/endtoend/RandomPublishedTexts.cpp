@@ -41,38 +41,40 @@ struct EanUpcKind {
   bool isUpc;
 };
 
+std::size_t AddonOf(std::int32_t symbology) {
+  switch (symbology) {
+    case BARHATCH_EAN_13:
+    case BARHATCH_EAN_8:
+    case BARHATCH_UPC_E:
+    case BARHATCH_UPC_A:
+      return 0;
+    case BARHATCH_EAN_13_ADDON_2:
+    case BARHATCH_EAN_8_ADDON_2:
+    case BARHATCH_UPC_E_ADDON_2:
+    case BARHATCH_UPC_A_ADDON_2:
+      return 2;
+    default:
+      return 5;
+  }
+}
+
 EanUpcKind KindOfEanUpc(std::int32_t symbology) {
+  const std::size_t addon = AddonOf(symbology);
   switch (symbology) {
     case BARHATCH_EAN_13:
     case BARHATCH_EAN_13_ADDON_2:
     case BARHATCH_EAN_13_ADDON_5:
-      return {12,
-              symbology == BARHATCH_EAN_13           ? 0u
-              : symbology == BARHATCH_EAN_13_ADDON_2 ? 2u
-                                                     : 5u,
-              false};
+      return {12, addon, false};
     case BARHATCH_EAN_8:
     case BARHATCH_EAN_8_ADDON_2:
     case BARHATCH_EAN_8_ADDON_5:
-      return {7,
-              symbology == BARHATCH_EAN_8           ? 0u
-              : symbology == BARHATCH_EAN_8_ADDON_2 ? 2u
-                                                    : 5u,
-              false};
+      return {7, addon, false};
     case BARHATCH_UPC_E:
     case BARHATCH_UPC_E_ADDON_2:
     case BARHATCH_UPC_E_ADDON_5:
-      return {6,
-              symbology == BARHATCH_UPC_E           ? 0u
-              : symbology == BARHATCH_UPC_E_ADDON_2 ? 2u
-                                                    : 5u,
-              true};
+      return {6, addon, true};
     default:
-      return {11,
-              symbology == BARHATCH_UPC_A           ? 0u
-              : symbology == BARHATCH_UPC_A_ADDON_2 ? 2u
-                                                    : 5u,
-              true};
+      return {11, addon, true};
   }
 }
 
