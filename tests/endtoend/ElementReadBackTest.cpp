@@ -127,7 +127,7 @@ void ExpectRead(std::int32_t symbology, const Message& message, ReadTally& tally
 }  // namespace
 
 TEST(ElementReadBack, Gs1128SaysWhatItIsAndHasTheElements) {
-  if (!HasReader(Reader::kZxing)) GTEST_SKIP();
+  if (!HasReader(Reader::kZxing)) GTEST_SKIP() << "built without the reader";
   Messages messages(128);
   ReadTally tally;
   int refused = 0;
@@ -147,7 +147,7 @@ TEST(ElementReadBack, Gs1128SaysWhatItIsAndHasTheElements) {
 }
 
 TEST(ElementReadBack, Gs1DataMatrixSaysWhatItIsAndHasTheElements) {
-  if (!HasReader(Reader::kZxing)) GTEST_SKIP();
+  if (!HasReader(Reader::kZxing)) GTEST_SKIP() << "built without the reader";
   Messages messages(16022);
   ReadTally tally;
   for (int i = 0; i < 400; ++i) ExpectRead(BARHATCH_DATA_MATRIX, messages.Next(), tally);

@@ -275,7 +275,7 @@ TEST(PublishedJobs, AreRefusedWithTheirReasonOrSayWhatTheirReadingPromises) {
 
 // BARHATCH_PUBLISHED_PICTURES in the environment says how many jobs.
 TEST(PublishedJobs, AreReadFromTheStrokesAsTheirReadingPromises) {
-  if (!HasReader(Reader::kZxing)) GTEST_SKIP();
+  if (!HasReader(Reader::kZxing)) GTEST_SKIP() << "built without the reader";
   RandomPublishedJobs random(15417);
   ReadTally tally;
   const long jobs = JobsAskedFor("BARHATCH_PUBLISHED_PICTURES", 2000);

@@ -237,7 +237,7 @@ TEST(ReaderOracleDetails, IdentifierTellsOfAnFnc1InFirstPosition) {
 }
 
 TEST(ReaderOracleDetails, SizeOfADataMatrixIsReported) {
-  if (!HasReader(Reader::kDmtx)) GTEST_SKIP();
+  if (!HasReader(Reader::kDmtx)) GTEST_SKIP() << "built without the reader";
   const auto result =
       Read(Reader::kDmtx, Draw(Generate(ZXing::BarcodeFormat::DataMatrix, L"123456")),
            Format::kDataMatrix);
